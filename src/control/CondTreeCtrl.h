@@ -1,0 +1,141 @@
+#pragma once
+
+#include <condtree/control/RealServices.h>
+#include <condtree/model/ComboCmd.h>
+#include <condtree/model/TransCond.h>
+#include <condtree/model/TreeType.h>
+#include <condtree/model/VarTreeCtrlNode.h>
+#include <condtree/platform/Services.h>
+#include <condtree/platform/StoredProcs.h>
+#include <condtree/platform/TreeVocabulary.h>
+
+#include <QTreeView>
+
+#include <map>
+#include <memory>
+#include <vector>
+
+namespace condtree {
+
+struct CondTreeParts;
+
+/// A tree in which an administrator edits a boolean condition: an implicit AND of condition rows and OR
+/// groups, loaded from and saved to a flat vector of records.
+///
+/// Construct it, call mvInitialize once, then mvLoad and mvSave as often as needed. It belongs to the
+/// user-interface thread. Failures of the data-access library are shown to the user as they happen; no
+/// operation here reports one.
+class CONDTREE_EXPORT CondTreeCtrl : public QTreeView {
+    Q_OBJECT
+public:
+    /// Ports of services that are left empty are the real ones.
+    explicit CondTreeCtrl(QWidget* parent = nullptr, Services services = realServices());
+    /// Frees the tree and the reference data, and releases the manager.
+    ~CondTreeCtrl() override;
+
+    /// Sets the control up. Takes a reference on manager (null is none) and releases the one before;
+    /// dateStyle is a date style code. Reads the settings and appends the pictures to the image lists;
+    /// reference data is loaded on first use.
+    void mvInitialize(SpMgr* manager, LONG dateStyle, KiroVaultType vaultType, TreeType treeType);
+    /// 1 suppresses the offer of conditions on child reference states; 0 until set.
+    void mvSetTransitionType(LONG transitionType);
+    /// Replaces the names of the workflow states, by id. Loading the states replaces them again.
+    void mvSetStateIdNodeNameMap(const std::map<LONG, CString>& names);
+    /// The date style code; 120 before mvInitialize.
+    [[nodiscard]] LONG miGetDateFmt() const;
+    [[nodiscard]] KiroVaultType meGetVaultType() const;
+
+    /// Shows records. With node null the tree is cleared and rebuilt. With node given the records are
+    /// added to the tree and the closing placeholder goes under node.
+    void mvLoad(const std::vector<TransCond>& records, VarTreeCtrlNode* node = nullptr);
+    /// Appends the rows below node (null is the top node) as records. With alterArguments each value is
+    /// first brought into its text form, in the node itself. Validates nothing.
+    void mvSave(std::vector<TransCond>& records, VarTreeCtrlNode* node = nullptr,
+                bool alterArguments = false);
+
+    /// Adds a node, with whatever lies below it, as the first or the last child of parent, and takes
+    /// ownership of it. With parent null it becomes the top node; the top node before it, if any, goes
+    /// back to the caller, out of the tree. The node's item.
+    HTREEITEM mhAddNode(VarTreeCtrlNode* parent, VarTreeCtrlNode* node, bool insertFirst);
+    /// Deletes a row with everything below it; with TVI_ROOT the whole tree. A handle that names no row
+    /// does nothing.
+    void mvDeleteNode(HTREEITEM item);
+    /// The node of a row; the top node for TVI_ROOT. Null for a handle that names no row.
+    [[nodiscard]] VarTreeCtrlNode* mpoGetNode(HTREEITEM item) const;
+    /// Whether a condition on a child reference's state lies below node (null is the top node).
+    bool mbHaveChildRefConditions(VarTreeCtrlNode* node = nullptr);
+    /// Deletes every condition on a child reference's state below node (null is the top node).
+    void mvRemoveChildRefConditions(VarTreeCtrlNode* node = nullptr);
+
+    /// The width of a column in a row of totalWidth pixels.
+    [[nodiscard]] int miGetColumnSize(int column, int totalWidth) const;
+    /// Gives a column newWidth pixels of a row of totalWidth, as dragging its right boundary does.
+    void mvResizeCol(int column, int newWidth, int totalWidth);
+
+    /// The shown name of a user; empty when there is none or the users cannot be loaded.
+    CString moGetNameForUserId(LONG id);
+    /// The name of a group; empty when there is none or the groups cannot be loaded.
+    CString moGetNameForGroupId(LONG id);
+
+Q_SIGNALS:
+    /// Emitted once for each change that a user makes; not by loading or saving.
+    void conditionChanged();
+
+protected:
+    /// Loads the card variables if they are not loaded; false when they cannot be, after telling the user
+    /// of a failure of the library. The same holds for the next three.
+    bool mbInitVars();
+    bool mbInitWorkflowStates();
+    bool mbInitUsers();
+    bool mbInitGroups();
+    /// Reads the settings of the connected user; false without a manager.
+    bool mbInitSettings();
+    /// Whether conditions on a child reference's state are offered, by the user's settings.
+    bool mbChildRefStateEnabled();
+
+    /// The id of a user by shown name, case ignored; 0 when there is none. Loads nothing.
+    LONG mlGetIDForUserName(CString name);
+    /// The id of a group by name, case ignored; 0 when there is none. Loads nothing.
+    LONG mlGetIDForGroupName(CString name);
+    /// The display name of the workflow state that a record's value names by its id; else empty.
+    CString moGetWorkflowAndStateName(const TransCond& record);
+
+    /// Take the operator off a text; see values/TypedValue.h.
+    static ComboCmd meParseString(CString& text);
+    static ComboCmd meParseNumber(CString& text);
+    static ComboCmd meParseDate(CString& text);
+    static ComboCmd meGetCompareType(CString& text, ArgType type, ComboCmd current);
+    /// Puts an operator in front of a bare value.
+    static void mvAlterArgument(CString& text, ComboCmd op);
+
+    /// The operator that a card variable of a type starts with.
+    static ComboCmd meGetDefaultOp(VariableType type);
+    /// The operator that the named card variable starts with; StringContains when it cannot be found.
+    ComboCmd meGetDefaultOp(const CString& variable);
+    /// The type of the named card variable; ArgText when it cannot be found.
+    ArgType meGetArgumentType(const CString& variable);
+    /// op, whatever the variable.
+    static ComboCmd meVerifyDefaultOp(ComboCmd op, const CString& variable);
+    /// Whether a row of a type must give up an operator for its default one.
+    static bool mbResetComparisonOperator(ArgType type, ComboCmd op);
+
+    /// Sets the label of a placeholder or group from its code; other nodes keep theirs.
+    void mvUpdateTypeName(VarTreeCtrlNode& node);
+    /// The index of a row's picture, by its node code.
+    static int miGetImage(ComboCmd nodeCode);
+
+    /// The control's own drawing, by stages; header is an NMTVCUSTOMDRAW's. result may not be null.
+    void OnNMCustomdraw(NMHDR* header, LRESULT* result);
+    /// The bits a pixel of the screen; 4 when they are not known.
+    int miGetColorResolution();
+
+    void paintEvent(QPaintEvent* event) override;
+    void drawRow(QPainter* painter, const QStyleOptionViewItem& option,
+                 const QModelIndex& index) const override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    std::shared_ptr<CondTreeParts> m_parts;
+};
+
+} // namespace condtree

@@ -1,0 +1,62 @@
+#include "ConditionKind.h"
+
+#include <array>
+
+namespace condtree {
+
+namespace {
+
+constexpr TextRef workflowText(LONG id, const char16_t* text)
+{
+    return {id, kTextKey, u"Workflow", text};
+}
+
+constexpr std::array<ConditionKind, 10> kKinds{{
+    {1, FilePath, workflowText(20, u"FilePath"), ValueKind::Text},
+    {2, NodeVariable, std::nullopt, ValueKind::Text},
+    {3, Revision, workflowText(21, u"Revision"), ValueKind::Text},
+    {4, Category, workflowText(87, u"Category"), ValueKind::Text},
+    {5, ObjectType, workflowText(732, u"Object Type"), ValueKind::ObjectType},
+    {6, NodeOtherName, std::nullopt, ValueKind::Text},
+    {7, ChildRefState, workflowText(756, u"Child Reference State"), ValueKind::ChildRefState},
+    {8, User, workflowText(40, u"User"), ValueKind::User},
+    {9, Group, workflowText(180, u"Group"), ValueKind::Group},
+    {10, NodeHistoricState, workflowText(757, u"Child Reference historic State"),
+     ValueKind::ChildRefState},
+}};
+
+constexpr bool isBetween(LONG value, LONG first, LONG last)
+{
+    return value >= first && value <= last;
+}
+
+} // namespace
+
+std::span<const ConditionKind> conditionKinds()
+{
+    return kKinds;
+}
+
+const ConditionKind* kindOfRecord(LONG condType)
+{
+    return isBetween(condType, 1, static_cast<LONG>(kKinds.size()))
+        ? &kKinds[static_cast<std::size_t>(condType - 1)]
+        : nullptr;
+}
+
+std::optional<LONG> recordTypeOfNode(LONG nodeCode)
+{
+    // A row that carries an operator's number as its code is a condition on a card variable.
+    if (isBetween(nodeCode, 100, 107) || isBetween(nodeCode, 120, 125)
+        || isBetween(nodeCode, 130, 135))
+        return 2;
+    if (nodeCode == DocTypeChoice)
+        return 4;
+    for (const ConditionKind& kind : kKinds) {
+        if (kind.nodeCode == nodeCode)
+            return kind.condType;
+    }
+    return std::nullopt;
+}
+
+} // namespace condtree

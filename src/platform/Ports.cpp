@@ -1,0 +1,10 @@
+// Out of line, so that each port's virtual table has one home.
+#include "IconLibrary.h"
+#include "RegistryStore.h"
+
+namespace condtree {
+
+RegistryStore::~RegistryStore() = default;
+IconLibrary::~IconLibrary() = default;
+
+} // namespace condtree

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <condtree/platform/IconLibrary.h>
+#include <condtree/platform/RegistryStore.h>
+#include <condtree/platform/TextRef.h>
+#include <condtree/platform/WinTypes.h>
+
+#include <functional>
+#include <memory>
+
+class QObject;
+class QWidget;
+
+namespace condtree {
+
+/// The metrics that Services::systemMetric answers, in device-independent pixels.
+enum : int {
+    SM_CXVSCROLL = 2,
+    SM_CXICON = 11,
+    SM_CYICON = 12,
+    SM_CYMENU = 15,
+    SM_CXDOUBLECLK = 36,
+    SM_CYDOUBLECLK = 37,
+    SM_CXEDGE = 45,
+    SM_CXSMICON = 49,
+    SM_CYSMICON = 50
+};
+
+/// A message box with an OK button and no icon.
+inline constexpr unsigned MB_OK = 0;
+
+/// Everything that the control asks of the world around it, but for the data-access library.
+/// The control fills a port that is left empty with the real one.
+struct Services {
+    /// Shows a modal message over owner and waits for the answer. type 0 is a plain OK box.
+    std::function<int(QWidget* owner, const CString& text, unsigned type)> messageBox;
+    StringSource string;
+    std::function<SYSTEMTIME()> localTime;
+    /// Milliseconds since some start; wraps around.
+    std::function<DWORD()> tickCount;
+    /// The pointer's place in screen co-ordinates.
+    std::function<POINT()> cursorPos;
+    std::function<int(int metric)> systemMetric;
+    /// Milliseconds.
+    std::function<DWORD()> doubleClickTime;
+    /// The screen's colour depth; 0 when it is not known.
+    std::function<int()> bitsPerPixel;
+    std::function<void(QObject* receiver, std::uintptr_t id, unsigned ms)> startTimer;
+    std::function<void(QObject* receiver, std::uintptr_t id)> stopTimer;
+    std::shared_ptr<RegistryStore> registry;
+    std::shared_ptr<IconLibrary> icons;
+};
+
+} // namespace condtree

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <condtree/platform/WinTypes.h>
+
+namespace condtree {
+
+/// The answer to a stage of drawing.
+[[nodiscard]] LRESULT customDrawAnswer(DWORD stage);
+
+/// The bits a pixel that drawing reckons with, from what the screen says; 4 when it says nothing.
+[[nodiscard]] int colourResolution(int bitsPerPixel);
+
+} // namespace condtree

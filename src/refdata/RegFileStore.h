@@ -1,0 +1,49 @@
+#pragma once
+
+#include <condtree/platform/RegistryStore.h>
+#include <condtree/refdata/RegFile.h>
+
+#include <QString>
+
+#include <map>
+
+namespace condtree {
+
+/// Where the two files of a RegFileStore lie.
+struct RegFilePaths {
+    QString user;
+    QString machine;
+
+    /// user.reg and machine.reg in CONDTREE_REGISTRY_DIR where that is set; else condtree/user.reg under
+    /// the user's XDG configuration folder and condtree/machine.reg under the machine's first one.
+    [[nodiscard]] static RegFilePaths standard();
+};
+
+/// The settings store on two text files in the .reg syntax, one per user and one per machine.
+///
+/// A file is read again whenever a key is opened, and replaced atomically when a value or key is
+/// written. An unreadable or malformed file is reported in the log, read as empty, and never
+/// overwritten: writing answers ERROR_WRITE_FAULT then.
+class RegFileStore final : public RegistryStore {
+public:
+    explicit RegFileStore(RegFilePaths paths = RegFilePaths::standard());
+    ~RegFileStore() override;
+
+    LONG openKey(HKEY root, const CString& subKey, DWORD access, HKEY& out) override;
+    LONG createKey(HKEY root, const CString& subKey, DWORD access, HKEY& out) override;
+    LONG queryValue(HKEY key, const CString& name, DWORD* type, void* data, DWORD* size) override;
+    LONG setValue(HKEY key, const CString& name, DWORD type,
+                  const std::vector<std::uint8_t>& data) override;
+    LONG closeKey(HKEY key) override;
+
+private:
+    struct OpenKey;
+    [[nodiscard]] const QString* pathOf(HKEY root) const;
+    [[nodiscard]] const OpenKey* find(HKEY key) const;
+
+    RegFilePaths m_paths;
+    std::map<HKEY, OpenKey> m_openKeys;
+    std::uintptr_t m_lastHandle = 0;
+};
+
+} // namespace condtree

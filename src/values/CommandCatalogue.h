@@ -1,0 +1,37 @@
+#pragma once
+
+#include <condtree/model/ComboCmd.h>
+#include <condtree/platform/TextRef.h>
+
+#include <optional>
+#include <span>
+
+namespace condtree {
+
+/// A command or a fixed value that the lists offer under a text of its own.
+struct CommandEntry {
+    ComboCmd command;
+    TextRef text;
+    /// Its picture's index in the row image list; none where the list shows no picture.
+    std::optional<int> image;
+};
+
+/// The commands and fixed values with a text, in ascending order of their numbers.
+[[nodiscard]] std::span<const CommandEntry> commandCatalogue();
+
+/// The entry of a number; null when it has no text of its own.
+[[nodiscard]] const CommandEntry* findCommand(LONG command);
+
+/// "<Click here to add a condition>".
+[[nodiscard]] const TextRef& placeholderText();
+/// "<Any Variable>", the first column of a condition without a name.
+[[nodiscard]] const TextRef& anyVariableText();
+
+/// The label that a node takes from its code: the placeholder's, the AND group's or the OR group's.
+/// Null for every other code, which keeps the label it has.
+[[nodiscard]] const TextRef* typeLabel(LONG nodeCode);
+
+/// The picture of a row in the row image list, by its node code.
+[[nodiscard]] int rowImageIndex(LONG nodeCode);
+
+} // namespace condtree
