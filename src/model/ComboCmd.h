@@ -4,8 +4,8 @@
 
 namespace condtree {
 
-/// The one numbering of everything that the control's lists offer. Persisted: operators travel to and
-/// from the host in TransCond::lOperator; append only.
+/// The one numbering of everything that the control's lists offer. Persisted: operators travel to
+/// and from the host in TransCond::lOperator; append only.
 enum ComboCmd : LONG {
     // Kinds of rows and commands
     And = 0,
@@ -65,13 +65,7 @@ enum ComboCmd : LONG {
 };
 
 /// The type of a row's value. Persisted; append only. Any other number means no type.
-enum ArgType : LONG {
-    ArgText = 1,
-    ArgNumberA = 2,
-    ArgNumberB = 3,
-    ArgBinary = 4,
-    ArgDate = 5
-};
+enum ArgType : LONG { ArgText = 1, ArgNumberA = 2, ArgNumberB = 3, ArgBinary = 4, ArgDate = 5 };
 
 /// The type of a card variable, in the numbering of ArgType. Persisted; append only.
 enum VariableType : LONG {

@@ -40,8 +40,8 @@ std::span<const ConditionKind> conditionKinds()
 const ConditionKind* kindOfRecord(LONG condType)
 {
     return isBetween(condType, 1, static_cast<LONG>(kKinds.size()))
-        ? &kKinds[static_cast<std::size_t>(condType - 1)]
-        : nullptr;
+               ? &kKinds[static_cast<std::size_t>(condType - 1)]
+               : nullptr;
 }
 
 std::optional<LONG> recordTypeOfNode(LONG nodeCode)

@@ -12,7 +12,8 @@ namespace condtree {
 /// What the value of a kind of condition holds.
 enum class ValueKind { Text, ObjectType, ChildRefState, User, Group };
 
-/// A kind of condition: the number in its records and the code of its nodes. Persisted; append only.
+/// A kind of condition: the number in its records and the code of its nodes. Persisted; append
+/// only.
 struct ConditionKind {
     LONG condType;
     LONG nodeCode;
@@ -37,12 +38,12 @@ struct ConditionKind {
     return condType == 4 || condType == 7 || condType == 10;
 }
 
-/// Whether a node of this kind is dropped when a reduced vault saves it. Users and groups are loaded
-/// there, but never saved; that asymmetry is meant.
+/// Whether a node of this kind is dropped when a reduced vault saves it. Users and groups are
+/// loaded there, but never saved; that asymmetry is meant.
 [[nodiscard]] constexpr bool isDroppedOnReducedSave(LONG nodeCode)
 {
     return nodeCode == Category || nodeCode == ChildRefState || nodeCode == NodeHistoricState
-        || nodeCode == User || nodeCode == Group;
+           || nodeCode == User || nodeCode == Group;
 }
 
 /// Whether a node is a condition on the state of a child reference, present or past.

@@ -7,9 +7,9 @@ namespace condtree {
 
 /// What a record is and where it hangs. Persisted; append only.
 enum RowKind : LONG {
-    RowKindGroup = 2,   ///< An OR group.
-    RowKindTop = 3,     ///< A condition directly under the top-level AND.
-    RowKindInGroup = 4  ///< A condition inside the most recent OR group before it.
+    RowKindGroup = 2,  ///< An OR group.
+    RowKindTop = 3,    ///< A condition directly under the top-level AND.
+    RowKindInGroup = 4 ///< A condition inside the most recent OR group before it.
 };
 
 /// One record of a condition as hosts keep it. A condition is a flat, ordered vector of records: an

@@ -10,7 +10,8 @@ enum TreeType : LONG {
     TreeTypeUsersAndGroups = 1
 };
 
-/// What kind of vault the condition belongs to. Any number is valid; the one named changes behaviour.
+/// What kind of vault the condition belongs to. Any number is valid; the one named changes
+/// behaviour.
 enum KiroVaultType : LONG {
     /// No conditions on a category, child reference state, user or group.
     VaultTypeReduced = 1

@@ -10,12 +10,12 @@ namespace condtree {
 
 /// The kinds of nodes that are no ComboCmd of the same number.
 enum NodeCode : LONG {
-    NodePlaceholder = -1,     ///< "<Click here to add a condition>"
-    NodeAnd = 0,              ///< The top node.
-    NodeOr = 1,               ///< An OR group.
-    NodeOtherName = 11,       ///< A condition that shows the name of its record.
-    NodeHistoricState = 12,   ///< A child reference's state, past ones included.
-    NodeVariable = 1000       ///< A condition on a card variable.
+    NodePlaceholder = -1,   ///< "<Click here to add a condition>"
+    NodeAnd = 0,            ///< The top node.
+    NodeOr = 1,             ///< An OR group.
+    NodeOtherName = 11,     ///< A condition that shows the name of its record.
+    NodeHistoricState = 12, ///< A child reference's state, past ones included.
+    NodeVariable = 1000     ///< A condition on a card variable.
 };
 
 /// The columns that the in-place editor edits.
@@ -27,11 +27,15 @@ enum EditColumn : LONG { EditColumnValue = 2, EditColumnExtra = 3 };
 /// tree that it was added to; the other fields may be changed in place.
 class CONDTREE_EXPORT VarTreeCtrlNode final : public FocusEditValue {
 public:
-    explicit VarTreeCtrlNode(LONG code) : mlCode(code) {}
+    explicit VarTreeCtrlNode(LONG code)
+        : mlCode(code)
+    {
+    }
     VarTreeCtrlNode(const VarTreeCtrlNode&) = delete;
     VarTreeCtrlNode& operator=(const VarTreeCtrlNode&) = delete;
 
-    /// The node's kind: a NodeCode, a ComboCmd from 3 to 10, or an operator's number on a card variable.
+    /// The node's kind: a NodeCode, a ComboCmd from 3 to 10, or an operator's number on a card
+    /// variable.
     LONG mlCode;
     /// The first column: the label of the kind or group, or the card variable's name.
     CString mName;

@@ -10,9 +10,15 @@ namespace condtree {
 class SpStr {
 public:
     SpStr() = default;
-    SpStr(const CString& text) : m_text(text) {}
+    SpStr(const CString& text)
+        : m_text(text)
+    {
+    }
     /// Null gives the empty text.
-    SpStr(const char16_t* text) : m_text(QString::fromUtf16(text)) {}
+    SpStr(const char16_t* text)
+        : m_text(QStringView(text).toString())
+    {
+    }
 
     /// The length in UTF-16 code units.
     [[nodiscard]] int length() const { return static_cast<int>(m_text.size()); }
@@ -34,7 +40,7 @@ private:
 }
 [[nodiscard]] inline SpStr operator+(const SpStr& a, const char16_t* b)
 {
-    return a + QString::fromUtf16(b);
+    return a + QStringView(b).toString();
 }
 [[nodiscard]] inline bool operator==(const SpStr& a, const CString& b)
 {
@@ -46,7 +52,7 @@ private:
 }
 [[nodiscard]] inline bool operator==(const SpStr& a, const char16_t* b)
 {
-    return a.str() == QString::fromUtf16(b);
+    return a.str() == QStringView(b);
 }
 
 } // namespace condtree

@@ -12,8 +12,8 @@
 
 // What a data-access library must offer. Hosts may implement it; libs/storedprocs does.
 //
-// Every operation answers with a result code, negative on failure. Records are handed over as blocks
-// from CoTaskMemAlloc (SpNew makes them); who receives them destroys and frees them.
+// Every operation answers with a result code, negative on failure. Records are handed over as
+// blocks from CoTaskMemAlloc (SpNew makes them); who receives them destroys and frees them.
 namespace condtree {
 
 /// The procedure objects of a manager, by number.

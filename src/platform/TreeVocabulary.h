@@ -9,7 +9,8 @@ class QWidget;
 namespace condtree {
 
 struct TreeItemTag;
-/// A row of the tree; null is none. A handle whose row is gone names nothing, and never another row.
+/// A row of the tree; null is none. A handle whose row is gone names nothing, and never another
+/// row.
 using HTREEITEM = TreeItemTag*;
 
 inline const HTREEITEM TVI_ROOT = reinterpret_cast<HTREEITEM>(~std::uintptr_t{0xFFFF});

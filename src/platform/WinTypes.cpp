@@ -14,7 +14,8 @@ int MulDiv(int number, int numerator, int denominator)
         return static_cast<std::uint64_t>(value < 0 ? -value : value);
     };
     const std::uint64_t divisor = magnitude(denominator);
-    const std::uint64_t quotient = (magnitude(number) * magnitude(numerator) + divisor / 2) / divisor;
+    const std::uint64_t quotient =
+        (magnitude(number) * magnitude(numerator) + divisor / 2) / divisor;
     const bool negative = (number < 0) != ((numerator < 0) != (denominator < 0));
     const auto limit = static_cast<std::uint64_t>(std::numeric_limits<int>::max());
     if (quotient > limit)

@@ -80,7 +80,10 @@ CONDTREE_EXPORT void CoTaskMemFree(void* memory);
 /// The exception that carries a result code.
 class CONDTREE_EXPORT _com_error {
 public:
-    explicit _com_error(HRESULT code) noexcept : m_code(code) {}
+    explicit _com_error(HRESULT code) noexcept
+        : m_code(code)
+    {
+    }
     [[nodiscard]] HRESULT Error() const noexcept { return m_code; }
 
 private:

@@ -14,7 +14,8 @@ namespace condtree::test {
 using GoldenTable = std::vector<QHash<QString, QString>>;
 
 /// Reads a table by its file name; none when the folder of tables is not beside the checkout.
-[[nodiscard]] std::optional<GoldenTable> goldenTable(const QString& directory, const QString& fileName);
+[[nodiscard]] std::optional<GoldenTable> goldenTable(const QString& directory,
+                                                     const QString& fileName);
 
 /// Turns \uXXXX into the code units that they name.
 [[nodiscard]] QString unescaped(const QString& text);
@@ -26,5 +27,5 @@ using GoldenTable = std::vector<QHash<QString, QString>>;
     const auto name##Found = condtree::test::goldenTable(QStringLiteral(CONDTREE_GOLDEN_DIR),      \
                                                          QStringLiteral(fileName));                \
     if (!name##Found)                                                                              \
-        GTEST_SKIP() << "no table " << CONDTREE_GOLDEN_DIR << "/" << fileName;                      \
+        GTEST_SKIP() << "no table " << CONDTREE_GOLDEN_DIR << "/" << fileName;                     \
     const condtree::test::GoldenTable& name = *name##Found
