@@ -1,19 +1,26 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 
 namespace condtree {
 
 /// The shares of a row's width that its first three columns take; the fourth takes the rest.
 class ColumnShares {
 public:
-    /// The share of column 0, 1 or 2, from 0 to 1.
-    [[nodiscard]] double share(int column) const { return m_shares[static_cast<std::size_t>(column)]; }
-    /// The width of a column in a row of totalWidth pixels, truncated; any column but 0, 1 and 2 takes
-    /// what the three leave.
+    /// The share of column 0, 1 or 2. From 0 to 1 but for what resize says.
+    [[nodiscard]] double share(int column) const
+    {
+        return m_shares[static_cast<std::size_t>(column)];
+    }
+    /// The width of a column in a row of totalWidth pixels, truncated toward zero; any column but
+    /// 0, 1 and 2 takes what the three leave. Saturates.
     [[nodiscard]] int width(int column, int totalWidth) const;
-    /// The user dragged the boundary at the right of a column so that it is newWidth pixels wide in a
-    /// row of totalWidth. Columns from 3 on, and a row without width, change nothing.
+    /// The user dragged the boundary at the right of a column so that it is newWidth pixels wide in
+    /// a row of totalWidth. Growing column 0 pushes the next two to the right, column 1 grows at
+    /// the expense of column 2, and column 2 at the expense of what is left. Columns outside 0 to
+    /// 2, and a row without width, change nothing. Widths are not checked: a negative one, or one
+    /// of column 1 that is wider than the two columns together, makes a negative share.
     void resize(int column, int newWidth, int totalWidth);
 
 private:

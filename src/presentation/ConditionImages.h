@@ -10,9 +10,10 @@ namespace condtree {
 /// The two image lists of the control: one picture a row, and the operators' pictures.
 class ConditionImages {
 public:
-    /// Makes the lists on the first call, and appends the library's pictures to them on every call.
-    /// Pictures that the library lacks are blank, so that the indices stay; without the library the
-    /// lists stay empty.
+    /// Makes the lists on the first call, of pictures of iconSize, the row list with 8 bits a pixel
+    /// on a screen of less than 24, and appends the library's pictures to them on every call. A row
+    /// picture that the library lacks is blank, so that the indices stay; a strip that it lacks is
+    /// left out. Without the library the lists stay empty, and nothing is reported.
     void append(IconLibrary& library, const QSize& iconSize, int bitsPerPixel);
 
     /// Null before the first append.

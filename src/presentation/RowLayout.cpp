@@ -1,0 +1,46 @@
+#include "RowLayout.h"
+
+#include <cstddef>
+
+namespace condtree {
+
+namespace {
+/// Between a cell's left edge and its text, and between a picture and the text behind it.
+constexpr int kGap = 3;
+} // namespace
+
+RowLayout::RowLayout(const RECT& row, LONG textLeft, const ColumnShares& shares, int smallIconWidth)
+    : m_row(row)
+    , m_textLeft(textLeft)
+    , m_shares(shares)
+    , m_smallIconWidth(smallIconWidth)
+{
+}
+
+PaintedCells RowLayout::paintedCells() const
+{
+    const LONG width = m_row.right - m_row.left;
+    PaintedCells cells{};
+    cells.body = {m_textLeft, m_row.top, m_row.right, m_row.bottom};
+    cells.caption = {m_textLeft + kGap, m_row.top, m_row.right, m_row.bottom};
+
+    // The columns' boundaries are counted from the row's left edge, wherever its text begins.
+    std::array<LONG, 4> end{};
+    LONG edge = m_row.left;
+    for (int column = 0; column < 3; ++column) {
+        edge += m_shares.width(column, width);
+        end[static_cast<std::size_t>(column)] = edge;
+    }
+    end[3] = m_row.right;
+
+    cells.text[0] = {cells.caption.left, m_row.top, end[0], m_row.bottom};
+    for (std::size_t column = 1; column < 4; ++column) {
+        cells.separator[column - 1] = end[column - 1];
+        cells.text[column] = {end[column - 1] + kGap, m_row.top, end[column], m_row.bottom};
+    }
+    cells.operatorImage = {cells.text[1].left, m_row.top};
+    cells.text[1].left += m_smallIconWidth + kGap;
+    return cells;
+}
+
+} // namespace condtree

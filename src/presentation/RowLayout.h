@@ -21,12 +21,12 @@ struct PaintedCells {
     POINT operatorImage;
 };
 
-/// The one place where the x offsets of a row are computed. There is one function a question, because
-/// the rules differ on purpose.
+/// The one place where the x offsets of a row are computed. There is one function a question,
+/// because the rules differ on purpose.
 class RowLayout {
 public:
-    /// row is the whole row; textLeft is where its text begins, behind indentation and picture. All in
-    /// viewport co-ordinates and device-independent pixels.
+    /// row is the whole row; textLeft is where its text begins, behind indentation and picture. All
+    /// in viewport co-ordinates and device-independent pixels.
     RowLayout(const RECT& row, LONG textLeft, const ColumnShares& shares, int smallIconWidth);
 
     [[nodiscard]] PaintedCells paintedCells() const;

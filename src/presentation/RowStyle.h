@@ -12,10 +12,12 @@ inline constexpr COLORREF kRowLineColour = 0x00DCA0A0;
 /// The colour of the rows' background.
 inline constexpr COLORREF kRowBackground = 0x00FFFFFF;
 
+/// An opaque colour; the highest byte is ignored.
 [[nodiscard]] QColor toQColor(COLORREF colour);
 
-/// A palette for rows on white, made from the desktop's: its text colour where that can be read on
-/// white, else black; its highlight is kept.
+/// A palette for rows on white, made from the desktop's, in every group of it: its colours of texts
+/// and marks where they can be read on white (a contrast of at least 4.5), else black; its
+/// highlight is kept.
 [[nodiscard]] QPalette paletteOnWhite(const QPalette& desktop);
 
 } // namespace condtree

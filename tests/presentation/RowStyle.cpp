@@ -1,0 +1,110 @@
+#include <condtree/presentation/RowStyle.h>
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+using namespace condtree;
+
+namespace {
+
+const std::vector<QPalette::ColorGroup> kGroups{QPalette::Active, QPalette::Inactive,
+                                                QPalette::Disabled};
+
+TEST(RowStyle, AColourIsBlueGreenRedFromTheTop)
+{
+    EXPECT_EQ(toQColor(0x00123456), QColor(0x56, 0x34, 0x12));
+    EXPECT_EQ(toQColor(kRowLineColour), QColor(160, 160, 220));
+    EXPECT_EQ(toQColor(kRowBackground), QColor(Qt::white));
+}
+
+TEST(RowStyle, AColoursHighestByteIsIgnored)
+{
+    EXPECT_EQ(toQColor(0xFF0000FF), QColor(255, 0, 0));
+}
+
+QPalette darkDesktop()
+{
+    QPalette palette;
+    for (const QPalette::ColorGroup group : kGroups) {
+        palette.setColor(group, QPalette::Base, QColor(30, 30, 30));
+        palette.setColor(group, QPalette::AlternateBase, QColor(40, 40, 40));
+        palette.setColor(group, QPalette::Text, Qt::white);
+        palette.setColor(group, QPalette::WindowText, QColor(200, 200, 200));
+        palette.setColor(group, QPalette::Highlight, QColor(20, 20, 120));
+        palette.setColor(group, QPalette::HighlightedText, QColor(250, 250, 200));
+    }
+    return palette;
+}
+
+TEST(RowStyle, RowsAreWhiteInEveryGroup)
+{
+    const QPalette palette = paletteOnWhite(darkDesktop());
+    for (const QPalette::ColorGroup group : kGroups) {
+        EXPECT_EQ(palette.color(group, QPalette::Base), QColor(Qt::white));
+        EXPECT_EQ(palette.color(group, QPalette::AlternateBase), QColor(Qt::white));
+    }
+}
+
+TEST(RowStyle, LightTextsBecomeBlackInEveryGroup)
+{
+    const QPalette palette = paletteOnWhite(darkDesktop());
+    for (const QPalette::ColorGroup group : kGroups) {
+        EXPECT_EQ(palette.color(group, QPalette::Text), QColor(Qt::black));
+        EXPECT_EQ(palette.color(group, QPalette::WindowText), QColor(Qt::black));
+    }
+}
+
+TEST(RowStyle, TheHighlightIsTheDesktops)
+{
+    const QPalette palette = paletteOnWhite(darkDesktop());
+    for (const QPalette::ColorGroup group : kGroups) {
+        EXPECT_EQ(palette.color(group, QPalette::Highlight), QColor(20, 20, 120));
+        EXPECT_EQ(palette.color(group, QPalette::HighlightedText), QColor(250, 250, 200));
+    }
+}
+
+struct Text {
+    const char* name;
+    QColor desktop;
+    QColor shown;
+};
+
+TEST(RowStyle, TextsThatCanBeReadOnWhiteKeepTheirColour)
+{
+    const std::vector<Text> rows{
+        {"black", Qt::black, Qt::black},
+        {"dark blue", QColor(0, 0, 139), QColor(0, 0, 139)},
+        {"blue", Qt::blue, Qt::blue},
+        // Grey reaches the contrast of 4.5 between 118 and 119.
+        {"just dark enough", QColor(118, 118, 118), QColor(118, 118, 118)},
+        {"just too light", QColor(119, 119, 119), Qt::black},
+        {"red", Qt::red, Qt::black},
+        {"green", Qt::green, Qt::black},
+        {"yellow", Qt::yellow, Qt::black},
+        {"white", Qt::white, Qt::black},
+        {"faint black", QColor(0, 0, 0, 60), Qt::black},
+        {"strong black", QColor(0, 0, 0, 200), QColor(0, 0, 0, 200)},
+    };
+    for (const Text& row : rows) {
+        QPalette desktop;
+        for (const QPalette::ColorRole role : {QPalette::Text, QPalette::WindowText}) {
+            desktop.setColor(role, row.desktop);
+            EXPECT_EQ(paletteOnWhite(desktop).color(role), row.shown) << row.name;
+        }
+    }
+}
+
+TEST(RowStyle, EachGroupIsJudgedByItself)
+{
+    QPalette desktop;
+    desktop.setColor(QPalette::Active, QPalette::Text, QColor(0, 0, 139));
+    desktop.setColor(QPalette::Inactive, QPalette::Text, QColor(139, 0, 0));
+    desktop.setColor(QPalette::Disabled, QPalette::Text, QColor(190, 190, 190));
+    const QPalette palette = paletteOnWhite(desktop);
+    EXPECT_EQ(palette.color(QPalette::Active, QPalette::Text), QColor(0, 0, 139));
+    EXPECT_EQ(palette.color(QPalette::Inactive, QPalette::Text), QColor(139, 0, 0));
+    EXPECT_EQ(palette.color(QPalette::Disabled, QPalette::Text), QColor(Qt::black));
+}
+
+} // namespace
