@@ -1,0 +1,89 @@
+#include "CardVariables.h"
+
+#include <condtree/platform/NativeText.h>
+#include <condtree/refdata/RecordText.h>
+#include <condtree/values/OperatorRules.h>
+
+#include <utility>
+
+namespace condtree {
+
+CardVariables::CardVariables(const ManagerRef& manager, FailureReport report)
+    : m_manager(manager)
+    , m_report(std::move(report))
+{
+}
+
+CardVariables::~CardVariables()
+{
+    while (!mVariables.IsEmpty())
+        SpDelete(mVariables.RemoveTail());
+}
+
+bool CardVariables::mbInitVars()
+{
+    if (mbVariablesLoaded)
+        return true;
+    auto* proc = m_manager.proc<SpUpdateVariableDefinition>(SPID_VARIABLE_DEFINITION);
+    if (proc == nullptr)
+        return false;
+    const HRESULT result = proc->mhGetVariables(mVariables, false);
+    indexNewVariables();
+    if (FAILED(result)) {
+        // A copy: the report shows a message, and this may be gone when it is closed.
+        const FailureReport report = m_report;
+        report(result);
+        return false;
+    }
+    mbVariablesLoaded = true;
+    return true;
+}
+
+void CardVariables::indexNewVariables()
+{
+    POSITION position = m_lastIndexed;
+    if (position == nullptr)
+        position = mVariables.GetHeadPosition();
+    else
+        mVariables.GetNext(position);
+    while (position != nullptr) {
+        m_lastIndexed = position;
+        const VarDef* variable = mVariables.GetNext(position);
+        if (variable == nullptr)
+            continue;
+        m_last = variable;
+        const CString name = recordText(variable->mName).toString();
+        // The first of all equal names answers to every spelling, later ones' own included.
+        const VarDef*& first = m_byFoldedName[localeFoldedKey(name)];
+        if (first == nullptr)
+            first = variable;
+        m_bySpelling.insert(name, first);
+    }
+}
+
+const VarDef* CardVariables::find(const CString& name) const
+{
+    const auto spelled = m_bySpelling.constFind(name);
+    if (spelled != m_bySpelling.cend())
+        return *spelled;
+    return m_byFoldedName.value(localeFoldedKey(name), nullptr);
+}
+
+const VarDef* CardVariables::last() const
+{
+    return m_last;
+}
+
+ComboCmd CardVariables::meGetDefaultOp(const CString& name)
+{
+    const VarDef* variable = mbInitVars() ? find(name) : nullptr;
+    return variable == nullptr ? StringContains : defaultOperator(variable->mlType);
+}
+
+ArgType CardVariables::meGetArgumentType(const CString& name)
+{
+    const VarDef* variable = mbInitVars() ? find(name) : nullptr;
+    return variable == nullptr ? ArgText : static_cast<ArgType>(variable->mlType);
+}
+
+} // namespace condtree

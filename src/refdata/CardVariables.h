@@ -25,7 +25,8 @@ public:
 
     /// Loads the variables if they are not loaded. False without a manager or its procedure object,
     /// silently, and after a failure of the library, which is reported; the next call tries again.
-    /// A failed try leaves what the library had appended in the list, and the next one appends to it.
+    /// A failed try leaves what the library had appended in the list, and the next one appends to
+    /// it.
     bool mbInitVars();
 
     /// The list as it stands, in the library's order. Loads nothing.
@@ -36,11 +37,11 @@ public:
     /// The last variable of the list as it stands; null when it is empty.
     [[nodiscard]] const VarDef* last() const;
 
-    /// The default operator of the named variable, which is loaded if need be; StringContains when it
-    /// cannot be found or the variables cannot be loaded.
+    /// The default operator of the named variable, which is loaded if need be; StringContains when
+    /// it cannot be found or the variables cannot be loaded.
     ComboCmd meGetDefaultOp(const CString& name);
-    /// The type of the named variable, which is loaded if need be; ArgText when it cannot be found or
-    /// the variables cannot be loaded.
+    /// The type of the named variable, which is loaded if need be; ArgText when it cannot be found
+    /// or the variables cannot be loaded.
     ArgType meGetArgumentType(const CString& name);
 
 private:

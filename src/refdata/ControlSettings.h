@@ -19,11 +19,12 @@ public:
     TreeType treeType{};
     LONG transitionType = 0;
 
-    /// Reads the current user's id and whether users are shown by their second name. False without a
-    /// manager.
+    /// Reads the current user's id and whether users are shown by their second name. False without
+    /// a manager.
     bool mbInitSettings();
     /// Whether conditions on the state of a child reference are offered: unless the user's value
-    /// "HasChildRefState" reads as zero. Makes the settings key when it is missing and keeps it open.
+    /// "HasChildRefState" reads as zero. Makes the settings key when it is missing and keeps it
+    /// open.
     bool mbChildRefStateEnabled();
 
     [[nodiscard]] LONG currentUserId() const { return mlCurrentUserId; }

@@ -16,8 +16,8 @@ public:
     void reset(SpMgr* manager);
     /// Null when there is none.
     [[nodiscard]] SpMgr* get() const { return m_manager; }
-    /// The manager's procedure object of the type that the number stands for; null without a manager
-    /// or when the manager has none.
+    /// The manager's procedure object of the type that the number stands for; null without a
+    /// manager or when the manager has none.
     template <class Proc>
     [[nodiscard]] Proc* proc(SPID id) const
     {

@@ -24,15 +24,15 @@ public:
     /// Frees the records, those of earlier tries included.
     ~People();
 
-    /// mbInitUsers and mbInitGroups: loads the list if it is not loaded. False without a manager or its
-    /// procedure object, silently, and after a failure of the library, which is reported; the next
-    /// call empties the list and tries again.
+    /// mbInitUsers and mbInitGroups: loads the list if it is not loaded. False without a manager or
+    /// its procedure object, silently, and after a failure of the library, which is reported; the
+    /// next call empties the list and tries again.
     bool init();
 
     /// The list as it stands, in the library's order. Loads nothing.
     [[nodiscard]] const Lst<SpuLightData*>& list() const { return m_list; }
-    /// The name of the first record with an id, which is loaded if need be; empty when there is none or
-    /// the list cannot be loaded. Constant time.
+    /// The name of the first record with an id, which is loaded if need be; empty when there is
+    /// none or the list cannot be loaded. Constant time.
     CString nameOf(LONG id, ShownName shown);
     /// The id of the first record of the list as it stands whose shown name is name, case ignored;
     /// 0 when there is none. Loads nothing; constant time.
@@ -49,8 +49,8 @@ private:
     bool m_loaded = false;
     std::vector<SpuLightData*> m_orphans;
     QHash<LONG, const SpuLightData*> m_byId;
-    QHash<CString, LONG> m_byFirstName;
-    QHash<CString, LONG> m_bySecondName;
+    QHash<CString, const SpuLightData*> m_byFirstName;
+    QHash<CString, const SpuLightData*> m_bySecondName;
 };
 
 } // namespace condtree

@@ -5,6 +5,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <map>
 
 namespace condtree {
@@ -14,16 +15,20 @@ struct RegFilePaths {
     QString user;
     QString machine;
 
-    /// user.reg and machine.reg in CONDTREE_REGISTRY_DIR where that is set; else condtree/user.reg under
-    /// the user's XDG configuration folder and condtree/machine.reg under the machine's first one.
+    /// user.reg and machine.reg in CONDTREE_REGISTRY_DIR where that is set; else condtree/user.reg
+    /// under the user's XDG configuration folder and condtree/machine.reg under the machine's first
+    /// one.
     [[nodiscard]] static RegFilePaths standard();
 };
 
 /// The settings store on two text files in the .reg syntax, one per user and one per machine.
 ///
-/// A file is read again whenever a key is opened, and replaced atomically when a value or key is
-/// written. An unreadable or malformed file is reported in the log, read as empty, and never
-/// overwritten: writing answers ERROR_WRITE_FAULT then.
+/// A file is read again whenever a key is opened or something is written, and replaced atomically,
+/// so that processes may share it; one that is missing is empty, and is made, with its folders, by
+/// the first write. An unreadable or malformed file is reported in the log, read as empty, and
+/// never overwritten: writing, and making a key that is missing, answers ERROR_WRITE_FAULT then.
+/// Names with control characters or half a surrogate pair cannot be written:
+/// ERROR_INVALID_PARAMETER.
 class RegFileStore final : public RegistryStore {
 public:
     explicit RegFileStore(RegFilePaths paths = RegFilePaths::standard());
@@ -37,11 +42,27 @@ public:
     LONG closeKey(HKEY key) override;
 
 private:
-    struct OpenKey;
-    [[nodiscard]] const QString* pathOf(HKEY root) const;
-    [[nodiscard]] const OpenKey* find(HKEY key) const;
+    struct File {
+        QString path;
+        CString rootName;
+        RegFile contents;
+        bool isWritable = true;
+        QString reported; ///< The last warning; the same one is not repeated.
+    };
+    struct OpenKey {
+        File* file;
+        CString path;
+        DWORD access;
+    };
 
-    RegFilePaths m_paths;
+    [[nodiscard]] File* fileOf(HKEY root);
+    [[nodiscard]] const OpenKey* find(HKEY key) const;
+    HKEY remember(const OpenKey& key);
+    static void read(File& file);
+    static LONG change(File& file, const std::function<void(RegFile&)>& edit);
+
+    File m_user;
+    File m_machine;
     std::map<HKEY, OpenKey> m_openKeys;
     std::uintptr_t m_lastHandle = 0;
 };

@@ -35,8 +35,8 @@ private:
     LONG m_status = ERROR_SUCCESS;
 };
 
-/// The full path of the icon library, "WfIcons.dll" in the directory that the machine's settings name;
-/// the bare file name where they name none, or one of more than 129 characters.
+/// The full path of the icon library, "WfIcons.dll" in the directory that the machine's settings
+/// name; the bare file name where they name none, or one of more than 129 characters.
 [[nodiscard]] CONDTREE_EXPORT CString IconLibraryPath(RegistryStore& store);
 
 } // namespace condtree

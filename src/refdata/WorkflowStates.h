@@ -11,11 +11,14 @@ namespace condtree {
 /// The states of all workflows, loaded on first use and kept for good.
 class WorkflowStates {
 public:
-    explicit WorkflowStates(const ManagerRef& manager) : m_manager(manager) {}
+    explicit WorkflowStates(const ManagerRef& manager)
+        : m_manager(manager)
+    {
+    }
 
-    /// Loads the states if they are not loaded, replacing the names that the host gave. False without
-    /// a manager or when the memory is exhausted; a failure of the library is no failure here: it
-    /// leaves the states loaded and empty.
+    /// Loads the states if they are not loaded, replacing the names that the host gave. False
+    /// without a manager or when the memory is exhausted; a failure of the library is no failure
+    /// here: it leaves the states loaded and empty.
     bool mbInitWorkflowStates();
 
     /// Replaces the names by a copy of the host's.
@@ -27,8 +30,8 @@ public:
     {
         return mStatesInOrder;
     }
-    /// The display name of a state, which is loaded if need be; empty when the states cannot be loaded
-    /// or no state has the id.
+    /// The display name of a state, which is loaded if need be; empty when the states cannot be
+    /// loaded or no state has the id.
     [[nodiscard]] CString nameOf(LONG id);
 
 private:
