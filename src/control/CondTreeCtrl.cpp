@@ -1,0 +1,317 @@
+#include "CondTreeCtrl.h"
+
+#include <condtree/control/ChildRefConditions.h>
+#include <condtree/control/CondTreeParts.h>
+#include <condtree/platform/NativeText.h>
+#include <condtree/presentation/CustomDraw.h>
+#include <condtree/values/CommandCatalogue.h>
+#include <condtree/values/OperatorRules.h>
+#include <condtree/values/TypedValue.h>
+
+#include <QApplication>
+#include <QEvent>
+#include <QHeaderView>
+#include <QPainter>
+
+#include <utility>
+
+namespace condtree {
+
+namespace {
+
+// One column as wide as the viewport: the rows are divided by the control itself.
+void makeOneColumn(QHeaderView& header)
+{
+    header.hide();
+    header.setMinimumSectionSize(0);
+    header.setStretchLastSection(true);
+}
+
+// Left to right whatever the desktop: the columns are laid out from the left edge.
+void setUpView(QTreeView& view)
+{
+    makeOneColumn(*view.header());
+    view.setLayoutDirection(Qt::LeftToRight);
+    view.setUniformRowHeights(true);
+    view.setEditTriggers(QAbstractItemView::NoEditTriggers);
+    view.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+}
+
+NMTVCUSTOMDRAW notification(QWidget* from, QPainter* painter, const QRect& rect, HTREEITEM item)
+{
+    return {{from, 0, NM_CUSTOMDRAW},
+            0,
+            painter,
+            {rect.left(), rect.top(), rect.right() + 1, rect.bottom() + 1},
+            item};
+}
+
+} // namespace
+
+// Operations that may show a message hold on to the parts: the host may delete the control
+// meanwhile.
+
+CondTreeCtrl::CondTreeCtrl(QWidget* parent, Services services)
+    : QTreeView(parent)
+    , m_parts(std::make_shared<CondTreeParts>(this, std::move(services)))
+{
+    setUpView(*this);
+    followDesktop();
+    setItemDelegate(&m_parts->delegate);
+    setModel(&m_parts->model);
+    connect(&m_parts->model, &ConditionModel::expandRequested, this, &QTreeView::expand);
+}
+
+CondTreeCtrl::~CondTreeCtrl() = default;
+
+void CondTreeCtrl::mvInitialize(SpMgr* manager, LONG dateStyle, KiroVaultType vaultType,
+                                TreeType treeType)
+{
+    m_parts->setUp(manager, dateStyle, vaultType, treeType);
+    setIconSize(m_parts->appendImages());
+}
+
+void CondTreeCtrl::mvSetTransitionType(LONG transitionType)
+{
+    m_parts->settings.transitionType = transitionType;
+}
+
+void CondTreeCtrl::mvSetStateIdNodeNameMap(const std::map<LONG, CString>& names)
+{
+    m_parts->reference.states.setNames(names);
+}
+
+LONG CondTreeCtrl::miGetDateFmt() const
+{
+    return m_parts->settings.dateStyle;
+}
+
+KiroVaultType CondTreeCtrl::meGetVaultType() const
+{
+    return m_parts->settings.vaultType;
+}
+
+void CondTreeCtrl::mvLoad(const std::vector<TransCond>& records, VarTreeCtrlNode* node)
+{
+    const auto parts = m_parts;
+    parts->loader.load(records, node);
+}
+
+void CondTreeCtrl::mvSave(std::vector<TransCond>& records, VarTreeCtrlNode* node,
+                          bool alterArguments)
+{
+    const auto parts = m_parts;
+    parts->saver.save(records, node, alterArguments);
+}
+
+HTREEITEM CondTreeCtrl::mhAddNode(VarTreeCtrlNode* parent, VarTreeCtrlNode* node, bool insertFirst)
+{
+    return m_parts->model.attach(parent, node, insertFirst);
+}
+
+void CondTreeCtrl::mvDeleteNode(HTREEITEM item)
+{
+    const auto parts = m_parts;
+    parts->model.remove(item);
+}
+
+VarTreeCtrlNode* CondTreeCtrl::mpoGetNode(HTREEITEM item) const
+{
+    return m_parts->model.node(item);
+}
+
+bool CondTreeCtrl::mbHaveChildRefConditions(VarTreeCtrlNode* node)
+{
+    return hasChildRefConditions(node == nullptr ? m_parts->model.top() : node);
+}
+
+void CondTreeCtrl::mvRemoveChildRefConditions(VarTreeCtrlNode* node)
+{
+    const auto parts = m_parts;
+    removeChildRefConditions(parts->model, node == nullptr ? parts->model.top() : node);
+}
+
+int CondTreeCtrl::miGetColumnSize(int column, int totalWidth) const
+{
+    return m_parts->columns.width(column, totalWidth);
+}
+
+void CondTreeCtrl::mvResizeCol(int column, int newWidth, int totalWidth)
+{
+    m_parts->columns.resize(column, newWidth, totalWidth);
+    viewport()->update();
+}
+
+CString CondTreeCtrl::moGetNameForUserId(LONG id)
+{
+    const auto parts = m_parts;
+    return parts->reference.users.nameOf(id, parts->settings.shownUserName());
+}
+
+CString CondTreeCtrl::moGetNameForGroupId(LONG id)
+{
+    const auto parts = m_parts;
+    return parts->reference.groups.nameOf(id, ShownName::First);
+}
+
+bool CondTreeCtrl::mbInitVars()
+{
+    const auto parts = m_parts;
+    return parts->reference.variables.mbInitVars();
+}
+
+bool CondTreeCtrl::mbInitWorkflowStates()
+{
+    return m_parts->reference.states.mbInitWorkflowStates();
+}
+
+bool CondTreeCtrl::mbInitUsers()
+{
+    const auto parts = m_parts;
+    return parts->reference.users.init();
+}
+
+bool CondTreeCtrl::mbInitGroups()
+{
+    const auto parts = m_parts;
+    return parts->reference.groups.init();
+}
+
+bool CondTreeCtrl::mbInitSettings()
+{
+    return m_parts->settings.mbInitSettings();
+}
+
+bool CondTreeCtrl::mbChildRefStateEnabled()
+{
+    return m_parts->settings.mbChildRefStateEnabled();
+}
+
+LONG CondTreeCtrl::mlGetIDForUserName(CString name)
+{
+    return m_parts->reference.users.idOf(name, m_parts->settings.shownUserName());
+}
+
+LONG CondTreeCtrl::mlGetIDForGroupName(CString name)
+{
+    return m_parts->reference.groups.idOf(name, ShownName::First);
+}
+
+CString CondTreeCtrl::moGetWorkflowAndStateName(const TransCond& record)
+{
+    return m_parts->reference.states.nameOf(leadingNumber(record.oValue.str()));
+}
+
+ComboCmd CondTreeCtrl::meParseString(CString& text)
+{
+    return parseString(text);
+}
+
+ComboCmd CondTreeCtrl::meParseNumber(CString& text)
+{
+    return parseNumber(text);
+}
+
+ComboCmd CondTreeCtrl::meParseDate(CString& text)
+{
+    return parseDate(text);
+}
+
+ComboCmd CondTreeCtrl::meGetCompareType(CString& text, ArgType type, ComboCmd current)
+{
+    return compareType(text, type, current);
+}
+
+void CondTreeCtrl::mvAlterArgument(CString& text, ComboCmd op)
+{
+    alterArgument(text, op);
+}
+
+ComboCmd CondTreeCtrl::meGetDefaultOp(VariableType type)
+{
+    return defaultOperator(type);
+}
+
+ComboCmd CondTreeCtrl::meGetDefaultOp(const CString& variable)
+{
+    const auto parts = m_parts;
+    return parts->reference.variables.meGetDefaultOp(variable);
+}
+
+ArgType CondTreeCtrl::meGetArgumentType(const CString& variable)
+{
+    const auto parts = m_parts;
+    return parts->reference.variables.meGetArgumentType(variable);
+}
+
+ComboCmd CondTreeCtrl::meVerifyDefaultOp(ComboCmd op, const CString&)
+{
+    return op;
+}
+
+bool CondTreeCtrl::mbResetComparisonOperator(ArgType type, ComboCmd op)
+{
+    return mustResetOperator(type, op);
+}
+
+void CondTreeCtrl::mvUpdateTypeName(VarTreeCtrlNode& node)
+{
+    m_parts->model.updateTypeName(node);
+}
+
+int CondTreeCtrl::miGetImage(ComboCmd nodeCode)
+{
+    return rowImageIndex(nodeCode);
+}
+
+void CondTreeCtrl::OnNMCustomdraw(NMHDR* header, LRESULT* result)
+{
+    const auto& draw = *reinterpret_cast<const NMTVCUSTOMDRAW*>(header);
+    const QModelIndex row = m_parts->model.indexOf(draw.dwItemSpec);
+    *result = m_parts->drawing.handle(draw, placeOfRow(*this, row));
+}
+
+int CondTreeCtrl::miGetColorResolution()
+{
+    return colourResolution(m_parts->services.bitsPerPixel());
+}
+
+std::function<LRESULT(NMTVCUSTOMDRAW&)> CondTreeCtrl::stage()
+{
+    return [this](NMTVCUSTOMDRAW& draw) {
+        LRESULT answer = CDRF_DODEFAULT;
+        OnNMCustomdraw(&draw.hdr, &answer);
+        return answer;
+    };
+}
+
+void CondTreeCtrl::paintEvent(QPaintEvent* event)
+{
+    m_parts->drawing.begin(notification(this, nullptr, viewport()->rect(), nullptr), stage());
+    QTreeView::paintEvent(event);
+}
+
+void CondTreeCtrl::drawRow(QPainter* painter, const QStyleOptionViewItem& option,
+                           const QModelIndex& index) const
+{
+    auto* self =
+        const_cast<CondTreeCtrl*>(this); // a handler of notifications may change the control
+    const HTREEITEM item = m_parts->model.itemOf(index);
+    m_parts->drawing.drawRow(notification(self, painter, option.rect, item), self->stage(),
+                             [&] { QTreeView::drawRow(painter, option, index); });
+}
+
+void CondTreeCtrl::changeEvent(QEvent* event)
+{
+    QTreeView::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        followDesktop();
+}
+
+void CondTreeCtrl::followDesktop()
+{
+    if (const auto palette = m_parts->palette.follow(QApplication::palette(this)))
+        setPalette(*palette);
+}
+
+} // namespace condtree

@@ -11,6 +11,7 @@
 
 #include <QTreeView>
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <vector>
@@ -19,12 +20,12 @@ namespace condtree {
 
 struct CondTreeParts;
 
-/// A tree in which an administrator edits a boolean condition: an implicit AND of condition rows and OR
-/// groups, loaded from and saved to a flat vector of records.
+/// A tree in which an administrator edits a boolean condition: an implicit AND of condition rows
+/// and OR groups, loaded from and saved to a flat vector of records.
 ///
-/// Construct it, call mvInitialize once, then mvLoad and mvSave as often as needed. It belongs to the
-/// user-interface thread. Failures of the data-access library are shown to the user as they happen; no
-/// operation here reports one.
+/// Construct it, call mvInitialize once, then mvLoad and mvSave as often as needed. It belongs to
+/// the user-interface thread. Failures of the data-access library are shown to the user as they
+/// happen; no operation here reports one.
 class CONDTREE_EXPORT CondTreeCtrl : public QTreeView {
     Q_OBJECT
 public:
@@ -33,9 +34,9 @@ public:
     /// Frees the tree and the reference data, and releases the manager.
     ~CondTreeCtrl() override;
 
-    /// Sets the control up. Takes a reference on manager (null is none) and releases the one before;
-    /// dateStyle is a date style code. Reads the settings and appends the pictures to the image lists;
-    /// reference data is loaded on first use.
+    /// Sets the control up. Takes a reference on manager (null is none) and releases the one
+    /// before; dateStyle is a date style code. Reads the settings and appends the pictures to the
+    /// image lists; reference data is loaded on first use.
     void mvInitialize(SpMgr* manager, LONG dateStyle, KiroVaultType vaultType, TreeType treeType);
     /// 1 suppresses the offer of conditions on child reference states; 0 until set.
     void mvSetTransitionType(LONG transitionType);
@@ -45,20 +46,20 @@ public:
     [[nodiscard]] LONG miGetDateFmt() const;
     [[nodiscard]] KiroVaultType meGetVaultType() const;
 
-    /// Shows records. With node null the tree is cleared and rebuilt. With node given the records are
-    /// added to the tree and the closing placeholder goes under node.
+    /// Shows records. With node null the tree is cleared and rebuilt. With node given the records
+    /// are added to the tree and the closing placeholder goes under node.
     void mvLoad(const std::vector<TransCond>& records, VarTreeCtrlNode* node = nullptr);
-    /// Appends the rows below node (null is the top node) as records. With alterArguments each value is
-    /// first brought into its text form, in the node itself. Validates nothing.
+    /// Appends the rows below node (null is the top node) as records. With alterArguments each
+    /// value is first brought into its text form, in the node itself. Validates nothing.
     void mvSave(std::vector<TransCond>& records, VarTreeCtrlNode* node = nullptr,
                 bool alterArguments = false);
 
-    /// Adds a node, with whatever lies below it, as the first or the last child of parent, and takes
-    /// ownership of it. With parent null it becomes the top node; the top node before it, if any, goes
-    /// back to the caller, out of the tree. The node's item.
+    /// Adds a node, with whatever lies below it, as the first or the last child of parent, and
+    /// takes ownership of it. With parent null it becomes the top node; the top node before it, if
+    /// any, goes back to the caller, out of the tree. The node's item.
     HTREEITEM mhAddNode(VarTreeCtrlNode* parent, VarTreeCtrlNode* node, bool insertFirst);
-    /// Deletes a row with everything below it; with TVI_ROOT the whole tree. A handle that names no row
-    /// does nothing.
+    /// Deletes a row with everything below it; with TVI_ROOT the whole tree. A handle that names no
+    /// row does nothing.
     void mvDeleteNode(HTREEITEM item);
     /// The node of a row; the top node for TVI_ROOT. Null for a handle that names no row.
     [[nodiscard]] VarTreeCtrlNode* mpoGetNode(HTREEITEM item) const;
@@ -82,8 +83,8 @@ Q_SIGNALS:
     void conditionChanged();
 
 protected:
-    /// Loads the card variables if they are not loaded; false when they cannot be, after telling the user
-    /// of a failure of the library. The same holds for the next three.
+    /// Loads the card variables if they are not loaded; false when they cannot be, after telling
+    /// the user of a failure of the library. The same holds for the next three.
     bool mbInitVars();
     bool mbInitWorkflowStates();
     bool mbInitUsers();
@@ -110,7 +111,8 @@ protected:
 
     /// The operator that a card variable of a type starts with.
     static ComboCmd meGetDefaultOp(VariableType type);
-    /// The operator that the named card variable starts with; StringContains when it cannot be found.
+    /// The operator that the named card variable starts with; StringContains when it cannot be
+    /// found.
     ComboCmd meGetDefaultOp(const CString& variable);
     /// The type of the named card variable; ArgText when it cannot be found.
     ArgType meGetArgumentType(const CString& variable);
@@ -135,6 +137,9 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    [[nodiscard]] std::function<LRESULT(NMTVCUSTOMDRAW&)> stage();
+    void followDesktop();
+
     std::shared_ptr<CondTreeParts> m_parts;
 };
 

@@ -1,0 +1,71 @@
+#include "CondTreeParts.h"
+
+#include <condtree/control/RealServices.h>
+#include <condtree/presentation/CDPIHelper.h>
+#include <condtree/refdata/ErrorText.h>
+
+namespace condtree {
+
+namespace {
+
+template <class Port>
+void fillIn(Port& port, const Port& real)
+{
+    if (!port)
+        port = real;
+}
+
+Services completed(Services ports)
+{
+    const Services real = realServices();
+    fillIn(ports.messageBox, real.messageBox);
+    fillIn(ports.string, real.string);
+    fillIn(ports.localTime, real.localTime);
+    fillIn(ports.tickCount, real.tickCount);
+    fillIn(ports.cursorPos, real.cursorPos);
+    fillIn(ports.systemMetric, real.systemMetric);
+    fillIn(ports.doubleClickTime, real.doubleClickTime);
+    fillIn(ports.bitsPerPixel, real.bitsPerPixel);
+    fillIn(ports.registry, real.registry);
+    fillIn(ports.icons, real.icons);
+    return ports;
+}
+
+} // namespace
+
+CondTreeParts::CondTreeParts(QWidget* owner, Services ports)
+    : services(completed(std::move(ports)))
+    , messageOwner(owner)
+    , settings(manager, *services.registry)
+    , reference(manager, [this](HRESULT code) { report(code); })
+    , model(services.string, images)
+    , loader(services.string, settings, reference, model)
+    , saver(services.string, settings, reference.variables, model)
+    , drawing(services, model, columns, images)
+{
+}
+
+void CondTreeParts::setUp(SpMgr* newManager, LONG dateStyle, KiroVaultType vaultType,
+                          TreeType treeType)
+{
+    manager.reset(newManager);
+    settings.dateStyle = dateStyle;
+    settings.vaultType = vaultType;
+    settings.treeType = treeType;
+    settings.mbInitSettings();
+}
+
+QSize CondTreeParts::appendImages()
+{
+    CDPIHelper::get(); // the first control of the process makes it
+    const QSize size(services.systemMetric(SM_CXSMICON), services.systemMetric(SM_CYSMICON));
+    images.append(*services.icons, size, services.bitsPerPixel());
+    return size;
+}
+
+void CondTreeParts::report(HRESULT code) const
+{
+    services.messageBox(messageOwner, ResultCodeText(code, services.string), MB_OK);
+}
+
+} // namespace condtree

@@ -1,1 +1,71 @@
 #pragma once
+
+#include <condtree/platform/Services.h>
+#include <condtree/platform/TreeVocabulary.h>
+#include <condtree/presentation/RowPicture.h>
+
+#include <QStyledItemDelegate>
+
+#include <functional>
+#include <optional>
+
+class QTreeView;
+
+namespace condtree {
+
+class ColumnShares;
+class ConditionImages;
+class ConditionModel;
+class VarTreeCtrlNode;
+
+/// Where a row lies in the viewport: the whole row, and the left edge of its text behind
+/// indentation and picture.
+struct RowPlace {
+    RECT row;
+    LONG textLeft;
+};
+
+/// The place of a row of a tree view; none for a row that is not laid out (inside a closed group).
+[[nodiscard]] std::optional<RowPlace> placeOfRow(const QTreeView& view, const QModelIndex& index);
+
+/// What a row shows, from its node.
+[[nodiscard]] RowContent contentOfRow(const VarTreeCtrlNode& node, const VarTreeCtrlNode* top);
+
+/// Draws rows by the stages of custom drawing: the view draws its own row first, and the columns
+/// are drawn over it afterwards.
+class RowDrawing {
+public:
+    using Stage = std::function<LRESULT(NMTVCUSTOMDRAW&)>;
+
+    /// All must outlive the drawing.
+    RowDrawing(const Services& services, const ConditionModel& model, const ColumnShares& columns,
+               const ConditionImages& images);
+
+    /// Answers a stage, and paints the row's columns when the stage is its last one. place is the
+    /// row's; without one the notification's rectangle is the row, text and all. A row without a
+    /// node, and a notification without a painter, paint nothing.
+    LRESULT handle(const NMTVCUSTOMDRAW& draw, const std::optional<RowPlace>& place) const;
+
+    /// Begins a repaint of the view; stage answers the notification.
+    void begin(NMTVCUSTOMDRAW draw, const Stage& stage);
+    /// Draws a row: its stages around baseRow, the view's own drawing.
+    void drawRow(NMTVCUSTOMDRAW draw, const Stage& stage,
+                 const std::function<void()>& baseRow) const;
+
+private:
+    const Services& m_services;
+    const ConditionModel& m_model;
+    const ColumnShares& m_columns;
+    const ConditionImages& m_images;
+    bool m_tellsRows = false;
+};
+
+/// Gives rows their height: that of the resolution, or of the font where that is larger.
+class RowDelegate final : public QStyledItemDelegate {
+    Q_OBJECT
+public:
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option,
+                                 const QModelIndex& index) const override;
+};
+
+} // namespace condtree

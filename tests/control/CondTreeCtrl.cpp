@@ -1,0 +1,328 @@
+#include "ControlFixture.h"
+
+#include <condtree/control/BlankIcons.h>
+#include <condtree/presentation/CDPIHelper.h>
+#include <condtree/presentation/SystemMetrics.h>
+#include <condtree/refdata/Registry.h>
+
+#include <QApplication>
+#include <QImage>
+#include <QPainter>
+
+#include <array>
+
+namespace condtree::test {
+namespace {
+
+const std::string kEnd = "-1 <Click here to add a condition>\n";
+
+class CondTreeCtrlTest : public ControlFixture {
+protected:
+    VarTreeCtrlNode* newNode(LONG code, const char* name = "")
+    {
+        auto* node = new VarTreeCtrlNode(code);
+        node->mName = QString::fromUtf8(name);
+        return node;
+    }
+};
+
+// Set-up and teardown
+
+TEST_F(CondTreeCtrlTest, ANewControlHasItsDefaults)
+{
+    EXPECT_EQ(control->miGetDateFmt(), 120);
+    EXPECT_EQ(control->meGetVaultType(), 0);
+    EXPECT_EQ(control->mpoGetNode(TVI_ROOT), nullptr);
+    EXPECT_EQ(control->miGetColumnSize(0, 400), 100);
+    EXPECT_FALSE(control->mbInitVars());
+    EXPECT_FALSE(control->mbInitUsers());
+    EXPECT_FALSE(control->mbInitGroups());
+    EXPECT_FALSE(control->mbInitWorkflowStates());
+    EXPECT_FALSE(control->mbInitSettings());
+}
+
+TEST_F(CondTreeCtrlTest, InitializeStoresTheCodes)
+{
+    control->mvInitialize(nullptr, 103, VaultTypeReduced, TreeTypeUsersAndGroups);
+    EXPECT_EQ(control->miGetDateFmt(), 103);
+    EXPECT_EQ(control->meGetVaultType(), VaultTypeReduced);
+    control->mvInitialize(nullptr, -7, static_cast<KiroVaultType>(9), TreeType{});
+    EXPECT_EQ(control->miGetDateFmt(), -7);
+    EXPECT_EQ(control->meGetVaultType(), 9);
+}
+
+TEST_F(CondTreeCtrlTest, InitializeTakesOneReferenceHoweverOftenItIsCalled)
+{
+    EXPECT_EQ(library->references(), 1);
+    initialize();
+    EXPECT_EQ(library->references(), 2);
+    initialize();
+    EXPECT_EQ(library->references(), 2);
+}
+
+TEST_F(CondTreeCtrlTest, AnotherManagerReleasesTheOneBefore)
+{
+    initialize();
+    const FakeLibraryHolder other;
+    control->mvInitialize(other.get(), 120, KiroVaultType{}, TreeType{});
+    EXPECT_EQ(library->references(), 1);
+    EXPECT_EQ(other->references(), 2);
+    control->mvInitialize(nullptr, 120, KiroVaultType{}, TreeType{});
+    EXPECT_EQ(other->references(), 1);
+}
+
+TEST_F(CondTreeCtrlTest, ANullManagerKeepsNoneAndReferenceDataStaysUnloaded)
+{
+    control->mvInitialize(nullptr, 120, KiroVaultType{}, TreeType{});
+    EXPECT_FALSE(control->mbInitVars());
+    EXPECT_FALSE(control->mbInitWorkflowStates());
+    EXPECT_TRUE(control->moGetNameForUserId(7).isEmpty());
+    EXPECT_TRUE(messages.empty());
+}
+
+TEST_F(CondTreeCtrlTest, TheDestructorReleasesTheManagerAndFreesTheTree)
+{
+    bool destroyed = false;
+    FakeLibrary* own = FakeLibrary::make();
+    own->destroyed = &destroyed;
+    control->mvInitialize(own, 120, KiroVaultType{}, TreeType{});
+    own->Release();
+    loaded({groupRecord(), record(4, 8, "", "7", 1, 100)});
+    EXPECT_FALSE(destroyed);
+    control.reset();
+    EXPECT_TRUE(destroyed);
+}
+
+TEST_F(CondTreeCtrlTest, InitializeReadsTheSettingsAndLoadsNoReferenceData)
+{
+    library->userName = QStringLiteral("jones");
+    library->userId = 8;
+    initialize();
+    EXPECT_EQ(library->askedUserName, QStringLiteral("jones"));
+    EXPECT_EQ(library->askedUserId, 8);
+    EXPECT_EQ(library->getVariables.calls + library->getUsers.calls + library->getGroups.calls
+                  + library->getStates.calls,
+              0);
+}
+
+TEST_F(CondTreeCtrlTest, InitializeMakesTheResolutionHelper)
+{
+    CDPIHelper::deleteInstance();
+    initialize();
+    EXPECT_NE(CDPIHelper::pInstance, nullptr);
+}
+
+TEST_F(CondTreeCtrlTest, RowsCarryThePictureOfTheirKind)
+{
+    initialize();
+    loaded({record(3, 2, "Author", "a", 1, 100)});
+    const QImage picture = control->model()->index(0, 0).data(Qt::DecorationRole).value<QImage>();
+    EXPECT_EQ(picture.size(), QSize(realSystemMetric(SM_CXSMICON), realSystemMetric(SM_CYSMICON)));
+    EXPECT_EQ(control->iconSize(), picture.size());
+}
+
+TEST_F(CondTreeCtrlTest, PortsThatAreLeftEmptyAreTheRealOnes)
+{
+    CondTreeCtrl plain(nullptr, Services{});
+    plain.mvInitialize(nullptr, 120, KiroVaultType{}, TreeType{});
+    plain.mvLoad({});
+    EXPECT_EQ(toText(plain), "0 And\n  " + kEnd);
+}
+
+// Tree operations
+
+TEST_F(CondTreeCtrlTest, AddingWithoutAParentMakesTheTopAndGivesTheOldOneBack)
+{
+    VarTreeCtrlNode* first = newNode(NodeAnd, "x");
+    EXPECT_EQ(control->mhAddNode(nullptr, first, false), TVI_ROOT);
+    EXPECT_EQ(first->mName, QStringLiteral("And"));
+    EXPECT_EQ(first->mpParent, nullptr);
+    control->mhAddNode(first, newNode(NodeVariable, "a"), false);
+    VarTreeCtrlNode* second = newNode(NodeAnd);
+    control->mhAddNode(nullptr, second, false);
+    EXPECT_EQ(control->mpoGetNode(TVI_ROOT), second);
+    EXPECT_EQ(rowsBelow(*first), "1000 a\n");
+    delete first;
+}
+
+TEST_F(CondTreeCtrlTest, AddingFirstPutsTheNodeBeforeAllSiblings)
+{
+    loaded({record(3, 2, "Author", "a", 1, 100)});
+    const HTREEITEM item =
+        control->mhAddNode(control->mpoGetNode(TVI_ROOT), newNode(NodeVariable, "b"), true);
+    EXPECT_EQ(rows(), "1000 b\n1000 Author | a op=100 arg=1\n" + kEnd);
+    EXPECT_EQ(control->mpoGetNode(item), &topRow(0));
+    EXPECT_EQ(topRow(0).mhItem, item);
+}
+
+TEST_F(CondTreeCtrlTest, DeletingTheRootLeavesNoTopAndNothingToSave)
+{
+    loaded({record(3, 2, "Author", "a", 1, 100)});
+    control->mvDeleteNode(TVI_ROOT);
+    EXPECT_EQ(control->mpoGetNode(TVI_ROOT), nullptr);
+    EXPECT_EQ(control->model()->rowCount(), 0);
+    EXPECT_EQ(saved(), "");
+}
+
+TEST_F(CondTreeCtrlTest, DeletingARowTakesItsSubtreeAlong)
+{
+    loaded({groupRecord(), record(4, 2, "Author", "a", 1, 100), record(3, 1, "", "b", 1, 100)});
+    const HTREEITEM inner = topRow(0).mChildren[0]->mhItem;
+    control->mvDeleteNode(topRow(0).mhItem);
+    EXPECT_EQ(rows(), "5 FilePath | b op=100 arg=1\n" + kEnd);
+    EXPECT_EQ(control->mpoGetNode(inner), nullptr);
+    control->mvDeleteNode(inner);
+    control->mvDeleteNode(nullptr);
+    EXPECT_EQ(rows(), "5 FilePath | b op=100 arg=1\n" + kEnd);
+}
+
+TEST_F(CondTreeCtrlTest, NoItemHasNoNode)
+{
+    loaded({});
+    EXPECT_EQ(control->mpoGetNode(nullptr), nullptr);
+    EXPECT_EQ(control->mpoGetNode(TVI_FIRST), nullptr);
+}
+
+TEST_F(CondTreeCtrlTest, TheLabelFollowsTheCode)
+{
+    VarTreeCtrlNode node(NodeOr);
+    control->mvUpdateTypeName(node);
+    EXPECT_EQ(node.mName, QStringLiteral("Or"));
+    node.mlCode = NodeAnd;
+    control->mvUpdateTypeName(node);
+    EXPECT_EQ(node.mName, QStringLiteral("And"));
+    node.mlCode = NodePlaceholder;
+    control->mvUpdateTypeName(node);
+    EXPECT_EQ(node.mName, kPlaceholder);
+    node.mlCode = User;
+    control->mvUpdateTypeName(node);
+    EXPECT_EQ(node.mName, kPlaceholder);
+}
+
+TEST_F(CondTreeCtrlTest, ThePictureOfEveryCode)
+{
+    const std::array<std::pair<LONG, int>, 22> kRows{
+        {{-1, 0},   {0, 1},   {1, 2},   {2, 3},   {3, 5},    {4, 5},   {5, 5},   {6, 5},
+         {7, 5},    {8, 5},   {9, 6},   {10, 7},  {11, 3},   {12, 5},  {13, 14}, {50, 51},
+         {99, 100}, {100, 3}, {107, 3}, {139, 3}, {1000, 3}, {3000, 3}}};
+    for (const auto& [code, image] : kRows)
+        EXPECT_EQ(OpenCtrl::miGetImage(static_cast<ComboCmd>(code)), image) << code;
+}
+
+// Reference data by way of the control
+
+TEST_F(CondTreeCtrlTest, NamesAndIdsResolveBothWays)
+{
+    initialize();
+    EXPECT_EQ(control->mlGetIDForUserName(QStringLiteral("smith")), 0); // nothing is loaded for it
+    EXPECT_EQ(control->moGetNameForUserId(7), QStringLiteral("smith"));
+    EXPECT_EQ(control->moGetNameForGroupId(4), QStringLiteral("Checkers"));
+    EXPECT_EQ(control->mlGetIDForUserName(QStringLiteral("SMITH")), 7);
+    EXPECT_EQ(control->mlGetIDForGroupName(QStringLiteral("checkers")), 4);
+    EXPECT_EQ(control->moGetNameForUserId(99), QString());
+}
+
+TEST_F(CondTreeCtrlTest, TheSecondNameResolvesWhenTheSettingSaysSo)
+{
+    library->settings = {{24, QStringLiteral("1")}};
+    initialize();
+    EXPECT_EQ(control->moGetNameForUserId(7), QStringLiteral("Ann Smith"));
+    EXPECT_EQ(control->mlGetIDForUserName(QStringLiteral("ann smith")), 7);
+    EXPECT_EQ(control->mlGetIDForUserName(QStringLiteral("smith")), 0);
+}
+
+TEST_F(CondTreeCtrlTest, TheStateNamesOfTheHostServeUntilTheStatesAreLoaded)
+{
+    initialize();
+    TransCond state = record(3, 7, "", "12", 1, 100);
+    EXPECT_EQ(control->moGetWorkflowAndStateName(state), QStringLiteral("Release.Open"));
+    std::map<LONG, CString> names{{12, QStringLiteral("Host's")}};
+    control->mvSetStateIdNodeNameMap(names);
+    names.clear();
+    EXPECT_EQ(control->moGetWorkflowAndStateName(state), QStringLiteral("Host's"));
+    state.oValue = QStringLiteral("13");
+    EXPECT_EQ(control->moGetWorkflowAndStateName(state), QString());
+    state.oValue = QStringLiteral(" 12x");
+    EXPECT_EQ(control->moGetWorkflowAndStateName(state), QStringLiteral("Host's"));
+}
+
+TEST_F(CondTreeCtrlTest, LoadingTheStatesReplacesTheHostsNames)
+{
+    initialize();
+    control->mvSetStateIdNodeNameMap({{12, QStringLiteral("Host's")}, {50, QStringLiteral("x")}});
+    TransCond state = record(3, 7, "", "12", 1, 100);
+    EXPECT_EQ(control->moGetWorkflowAndStateName(state), QStringLiteral("Release.Open"));
+    state.oValue = QStringLiteral("50");
+    EXPECT_EQ(control->moGetWorkflowAndStateName(state), QString());
+}
+
+TEST_F(CondTreeCtrlTest, VariablesAnswerByNameAndFailuresAreShownOnceACall)
+{
+    initialize();
+    library->getVariables.results = {E_FAIL, E_NOTIMPL};
+    EXPECT_EQ(control->meGetDefaultOp(QStringLiteral("Due")), StringContains);
+    EXPECT_EQ(control->meGetArgumentType(QStringLiteral("Due")), ArgText);
+    EXPECT_EQ(messages,
+              (std::vector<QString>{QStringLiteral("An unspecified error occurred."),
+                                    QStringLiteral("The called method is not implemented.")}));
+    EXPECT_EQ(control->meGetDefaultOp(QStringLiteral("due")), DateEqualTo);
+    EXPECT_EQ(control->meGetArgumentType(QStringLiteral("COST")), ArgNumberB);
+    EXPECT_EQ(control->meGetArgumentType(QStringLiteral("nobody knows")), ArgText);
+    EXPECT_EQ(control->meGetDefaultOp(QStringLiteral("nobody knows")), StringContains);
+    EXPECT_TRUE(control->mbInitVars());
+    EXPECT_EQ(library->getVariables.calls, 3);
+}
+
+TEST_F(CondTreeCtrlTest, AFailureIsReportedAtEachCallUntilOneSucceeds)
+{
+    initialize();
+    library->getGroups.results = {E_FAIL, E_FAIL};
+    EXPECT_FALSE(control->mbInitGroups());
+    EXPECT_FALSE(control->mbInitGroups());
+    EXPECT_TRUE(control->mbInitGroups());
+    EXPECT_TRUE(control->mbInitGroups());
+    EXPECT_EQ(messages.size(), 2U);
+    EXPECT_EQ(library->getGroups.calls, 3);
+}
+
+TEST_F(CondTreeCtrlTest, TheOperatorRulesAreReachable)
+{
+    EXPECT_EQ(OpenCtrl::meGetDefaultOp(VarDate), DateEqualTo);
+    EXPECT_EQ(OpenCtrl::meVerifyDefaultOp(DateBiggerOrEqual, QStringLiteral("any")), 135);
+    EXPECT_TRUE(OpenCtrl::mbResetComparisonOperator(ArgNumberA, NumberEqualTo));
+    EXPECT_FALSE(OpenCtrl::mbResetComparisonOperator(ArgNumberB, NumberEqualTo));
+    CString text = QStringLiteral(">=5");
+    EXPECT_EQ(OpenCtrl::meParseNumber(text), NumberBiggerOrEqual);
+    text = QStringLiteral("<5");
+    EXPECT_EQ(OpenCtrl::meParseDate(text), DateLessThan);
+    text = QStringLiteral("%5%");
+    EXPECT_EQ(OpenCtrl::meParseString(text), StringContains);
+    EXPECT_EQ(text, QStringLiteral("5"));
+    EXPECT_EQ(OpenCtrl::meGetCompareType(text, ArgBinary, OperatorFromText), BinaryEqualTo);
+    OpenCtrl::mvAlterArgument(text, StringNotContains);
+    EXPECT_EQ(text, QStringLiteral("!=%5%"));
+}
+
+TEST_F(CondTreeCtrlTest, ChildReferenceStatesAreOfferedUnlessTheUsersSettingsSayNo)
+{
+    EXPECT_TRUE(control->mbChildRefStateEnabled());
+    Registry key(*registry);
+    key.open(HKEY_CURRENT_USER,
+             QStringLiteral("Software\\Veltrix\\Applications\\Larkspan Enterprise\\TamselAdmin"),
+             KEY_READ_WRITE);
+    ASSERT_NE(key.key(), nullptr);
+    registry->setValue(key.key(), QStringLiteral("HasChildRefState"), REG_DWORD, {0, 0, 0, 0});
+    EXPECT_FALSE(control->mbChildRefStateEnabled());
+}
+
+TEST_F(CondTreeCtrlTest, ColumnsAreMeasuredAndResized)
+{
+    EXPECT_EQ(control->miGetColumnSize(3, 401), 101);
+    control->mvResizeCol(0, 395, 400);
+    EXPECT_EQ(control->miGetColumnSize(0, 400), 385);
+    EXPECT_EQ(control->miGetColumnSize(1, 400), 5);
+    EXPECT_EQ(control->miGetColumnSize(2, 400), 5);
+}
+
+} // namespace
+} // namespace condtree::test

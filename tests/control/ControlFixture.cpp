@@ -1,0 +1,78 @@
+#include "ControlFixture.h"
+
+#include <condtree/control/BlankIcons.h>
+#include <condtree/presentation/SystemMetrics.h>
+#include <condtree/refdata/RegFileStore.h>
+
+namespace condtree::test {
+
+ControlFixture::ControlFixture()
+{
+    library->variables = {
+        {1, VarText, QStringLiteral("Author")},  {2, VarNumberA, QStringLiteral("Weight")},
+        {3, VarNumberB, QStringLiteral("Cost")}, {4, VarBinary, QStringLiteral("Approved")},
+        {5, VarDate, QStringLiteral("Due")},     {6, VarText, QStringLiteral("Title")}};
+    library->states = {{12, QStringLiteral("Release"), QStringLiteral("Open"), {}, 0},
+                       {13, QStringLiteral("Release"), QStringLiteral("Done"), {}, 0}};
+    library->users = {{7, QStringLiteral("smith"), QStringLiteral("Ann Smith")},
+                      {8, QStringLiteral("jones"), QStringLiteral("Bo Jones")}};
+    library->groups = {{3, QStringLiteral("Designers"), {}}, {4, QStringLiteral("Checkers"), {}}};
+    control = std::make_unique<OpenCtrl>(nullptr, services());
+}
+
+Services ControlFixture::services()
+{
+    Services ports;
+    ports.messageBox = [this](QWidget*, const CString& text, unsigned) {
+        messages.push_back(text);
+        return 0;
+    };
+    ports.string = [this](LONG id, const char16_t*, const char16_t*, const char16_t* text) {
+        const auto found = translations.find(id);
+        return found == translations.end() ? QString::fromUtf16(text) : found->second;
+    };
+    ports.systemMetric = [](int metric) { return realSystemMetric(metric); };
+    ports.bitsPerPixel = [this] { return bitsPerPixel; };
+    registry = std::make_shared<RegFileStore>(
+        RegFilePaths{folder.filePath(QStringLiteral("user.reg")),
+                     folder.filePath(QStringLiteral("machine.reg"))});
+    ports.registry = registry;
+    ports.icons = std::make_shared<BlankIcons>(realSystemMetric);
+    return ports;
+}
+
+void ControlFixture::initialize(KiroVaultType vaultType, TreeType treeType)
+{
+    control->mvInitialize(library.get(), 120, vaultType, treeType);
+}
+
+std::string ControlFixture::loaded(const std::vector<TransCond>& records)
+{
+    control->mvLoad(records);
+    return rows();
+}
+
+std::string ControlFixture::rows() const
+{
+    const VarTreeCtrlNode* top = control->mpoGetNode(TVI_ROOT);
+    return top == nullptr ? "no top" : rowsBelow(*top);
+}
+
+std::vector<TransCond> ControlFixture::savedRecords(bool alterArguments)
+{
+    std::vector<TransCond> records;
+    control->mvSave(records, nullptr, alterArguments);
+    return records;
+}
+
+std::string ControlFixture::saved(bool alterArguments)
+{
+    return toText(savedRecords(alterArguments));
+}
+
+VarTreeCtrlNode& ControlFixture::topRow(std::size_t n) const
+{
+    return *control->mpoGetNode(TVI_ROOT)->mChildren.at(n);
+}
+
+} // namespace condtree::test

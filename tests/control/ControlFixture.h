@@ -1,0 +1,97 @@
+#pragma once
+
+#include "TreeText.h"
+#include "support/FakeLibrary.h"
+
+#include <condtree/control/CondTreeCtrl.h>
+
+#include <gtest/gtest.h>
+
+#include <QTemporaryDir>
+
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace condtree::test {
+
+/// The control with its protected operations in the open.
+class OpenCtrl final : public CondTreeCtrl {
+public:
+    using CondTreeCtrl::CondTreeCtrl;
+    using CondTreeCtrl::mbChildRefStateEnabled;
+    using CondTreeCtrl::mbInitGroups;
+    using CondTreeCtrl::mbInitSettings;
+    using CondTreeCtrl::mbInitUsers;
+    using CondTreeCtrl::mbInitVars;
+    using CondTreeCtrl::mbInitWorkflowStates;
+    using CondTreeCtrl::mbResetComparisonOperator;
+    using CondTreeCtrl::meGetArgumentType;
+    using CondTreeCtrl::meGetCompareType;
+    using CondTreeCtrl::meGetDefaultOp;
+    using CondTreeCtrl::meParseDate;
+    using CondTreeCtrl::meParseNumber;
+    using CondTreeCtrl::meParseString;
+    using CondTreeCtrl::meVerifyDefaultOp;
+    using CondTreeCtrl::miGetColorResolution;
+    using CondTreeCtrl::miGetImage;
+    using CondTreeCtrl::mlGetIDForGroupName;
+    using CondTreeCtrl::mlGetIDForUserName;
+    using CondTreeCtrl::moGetWorkflowAndStateName;
+    using CondTreeCtrl::mvAlterArgument;
+    using CondTreeCtrl::mvUpdateTypeName;
+    using CondTreeCtrl::OnNMCustomdraw;
+};
+
+/// A record, with the fields that matter in the order in which they are told apart.
+inline TransCond record(LONG rowKind, LONG condType, const char* name, const char* value,
+                        LONG argType, LONG op, const char* extra = "")
+{
+    TransCond result;
+    result.lRowKind = rowKind;
+    result.lCondType = condType;
+    result.oName = QString::fromUtf8(name);
+    result.oValue = QString::fromUtf8(value);
+    result.lArgType = argType;
+    result.lOperator = op;
+    result.oExtra = QString::fromUtf8(extra);
+    return result;
+}
+
+/// The record of an OR group.
+inline TransCond groupRecord()
+{
+    return record(RowKindGroup, 0, "", "", 0, 0);
+}
+
+/// A control on a library of the test's own, with recorded messages and nothing of the machine.
+class ControlFixture : public testing::Test {
+protected:
+    ControlFixture();
+
+    /// Sets the control up with the library, as most tests want it.
+    void initialize(KiroVaultType vaultType = KiroVaultType{0}, TreeType treeType = TreeType{0});
+    /// Loads records over what the tree holds; the tree as text.
+    std::string loaded(const std::vector<TransCond>& records);
+    /// What saving gives, as text.
+    std::string saved(bool alterArguments = false);
+    [[nodiscard]] std::vector<TransCond> savedRecords(bool alterArguments = false);
+    /// The rows below the top, as text.
+    [[nodiscard]] std::string rows() const;
+    /// The node of the n-th row of the top level.
+    [[nodiscard]] VarTreeCtrlNode& topRow(std::size_t n) const;
+
+    FakeLibraryHolder library;
+    std::vector<QString> messages;
+    std::map<LONG, QString> translations; ///< by text id; the default where there is none
+    int bitsPerPixel = 32;
+    QTemporaryDir folder;
+    std::shared_ptr<RegistryStore> registry; ///< on two files in folder
+    std::unique_ptr<OpenCtrl> control;
+
+private:
+    [[nodiscard]] Services services();
+};
+
+} // namespace condtree::test
