@@ -1,0 +1,189 @@
+#include "ConditionEditor.h"
+
+#include <QEvent>
+#include <QLabel>
+#include <QLocale>
+#include <QVBoxLayout>
+
+namespace condtree::workbench {
+
+namespace {
+
+/// A label for texts of others: never read as mark-up, wrapped instead of widening the window.
+QLabel* newLabel(QWidget* parent, const char* name)
+{
+    auto* label = new QLabel(parent);
+    label->setObjectName(QLatin1String(name));
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    return label;
+}
+
+} // namespace
+
+ConditionEditor::ConditionEditor(const Database& database, Services services, QWidget* parent)
+    : QWidget(parent)
+    , m_database(database)
+    , m_title(newLabel(this, "title"))
+    , m_states(newLabel(this, "states"))
+    , m_lastChange(newLabel(this, "lastChange"))
+    , m_warning(newLabel(this, "warning"))
+    , m_control(new ConditionControl(database.manager(), this, std::move(services)))
+{
+    m_control->setObjectName(QStringLiteral("condition"));
+    m_control->setAccessibleName(tr("Condition"));
+    auto* layout = new QVBoxLayout(this);
+    const int gap = fontMetrics().height() / 3;
+    layout->setSpacing(gap);
+    layout->addWidget(m_title);
+    layout->addWidget(m_states);
+    layout->addWidget(m_lastChange);
+    layout->addWidget(m_warning);
+    layout->addSpacing(gap);
+    layout->addWidget(m_control, 1);
+    // Hidden, the control leaves the words at the top all the same.
+    layout->addStretch();
+    connect(m_control, &CondTreeCtrl::conditionChanged, this, &ConditionEditor::compare);
+    styleHeader();
+    showHeader();
+    showWarnings({});
+}
+
+MaybeFailure ConditionEditor::open(const SpTransition& transition)
+{
+    const Outcome<SpCondition> condition = m_database.load(transition);
+    if (!condition.hasValue())
+        return condition.failure();
+    m_version = condition.value().version;
+    m_transition = transition;
+    m_clean = fill(condition.value().records);
+    showHeader();
+    setUnsaved(false);
+    return std::nullopt;
+}
+
+MaybeFailure ConditionEditor::save()
+{
+    if (!m_transition)
+        return Failure{tr("There is no transition to save.")};
+    m_control->commitEditor();
+    const Outcome<ConditionRecords> records = m_control->records();
+    if (!records.hasValue())
+        return records.failure();
+    const Outcome<std::int64_t> version =
+        m_database.save(*m_transition, records.value(), m_version);
+    if (!version.hasValue())
+        return version.failure();
+    m_version = version.value();
+    m_clean = records.value();
+    showWarnings({});
+    setUnsaved(false);
+    return std::nullopt;
+}
+
+MaybeFailure ConditionEditor::importJson(const QByteArray& json)
+{
+    if (!m_transition)
+        return Failure{tr("There is no transition to import into.")};
+    const Outcome<ConditionRecords> records = conditionFromJson(json);
+    if (!records.hasValue())
+        return records.failure();
+    const std::optional<ConditionRecords> filled = fill(records.value());
+    setUnsaved(!filled || filled != m_clean);
+    return std::nullopt;
+}
+
+Outcome<QByteArray> ConditionEditor::exportJson()
+{
+    m_control->commitEditor();
+    const Outcome<ConditionRecords> records = m_control->records();
+    if (!records.hasValue())
+        return records.failure();
+    return conditionToJson(records.value());
+}
+
+void ConditionEditor::setTransition(const SpTransition& transition)
+{
+    m_transition = transition;
+    showHeader();
+}
+
+void ConditionEditor::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange)
+        styleHeader();
+}
+
+std::optional<ConditionRecords> ConditionEditor::fill(const ConditionRecords& records)
+{
+    QStringList warnings = m_control->setRecords(records);
+    const Outcome<ConditionRecords> stored = m_control->records();
+    if (!stored.hasValue() && !warnings.contains(stored.failure().text))
+        warnings.append(stored.failure().text);
+    if (stored.hasValue() && stored.value().size() < records.size())
+        warnings.append(tr("Saving will drop %1 of the %2 records that were read.")
+                            .arg(records.size() - stored.value().size())
+                            .arg(records.size()));
+    showWarnings(warnings);
+    return stored.hasValue() ? std::optional(stored.value()) : std::nullopt;
+}
+
+void ConditionEditor::compare()
+{
+    const Outcome<ConditionRecords> records = m_control->records();
+    setUnsaved(!records.hasValue() || !m_clean || records.value() != *m_clean);
+}
+
+void ConditionEditor::setUnsaved(bool isUnsaved)
+{
+    if (m_isUnsaved == isUnsaved)
+        return;
+    m_isUnsaved = isUnsaved;
+    Q_EMIT unsavedChanged(isUnsaved);
+}
+
+void ConditionEditor::showHeader()
+{
+    m_control->setVisible(m_transition.has_value());
+    m_states->setVisible(m_transition.has_value());
+    m_lastChange->setVisible(m_transition.has_value());
+    if (!m_transition) {
+        m_title->setText(tr("No transition is open"));
+        return;
+    }
+    m_title->setText(m_transition->name.str());
+    m_states->setText(QStringLiteral("%1: %2 \u2192 %3")
+                          .arg(m_transition->workflow.str(), m_transition->fromState.str(),
+                               m_transition->toState.str()));
+    const QLocale locale;
+    m_lastChange->setText(m_transition->changedAt.isNull()
+                              ? tr("Never changed")
+                              : tr("Last changed by %1, %2")
+                                    .arg(m_transition->changedBy.str(),
+                                         locale.toString(m_transition->changedAt.toLocalTime(),
+                                                         QLocale::ShortFormat)));
+}
+
+void ConditionEditor::showWarnings(const QStringList& warnings)
+{
+    m_warning->setText(warnings.join(QLatin1Char('\n')));
+    m_warning->setVisible(!warnings.isEmpty());
+}
+
+void ConditionEditor::styleHeader()
+{
+    QFont titleFont = font();
+    titleFont.setBold(true);
+    titleFont.setPointSizeF(titleFont.pointSizeF() * 1.3);
+    m_title->setFont(titleFont);
+    QPalette muted = palette();
+    muted.setBrush(QPalette::WindowText, palette().brush(QPalette::PlaceholderText));
+    m_lastChange->setPalette(muted);
+    QFont warningFont = font();
+    warningFont.setBold(true);
+    m_warning->setFont(warningFont);
+}
+
+} // namespace condtree::workbench

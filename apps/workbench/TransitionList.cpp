@@ -1,0 +1,147 @@
+#include "TransitionList.h"
+
+#include <QEvent>
+#include <QHeaderView>
+#include <QScrollBar>
+#include <QSignalBlocker>
+#include <QStyledItemDelegate>
+#include <QTreeWidgetItemIterator>
+
+namespace condtree::workbench {
+
+namespace {
+
+enum Column { NameColumn, CountColumn };
+constexpr int kIdRole = Qt::UserRole;
+
+/// Gives the rows air to be read and hit in.
+class AiryRows final : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        const int air = option.fontMetrics.height() / 2;
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(air, air);
+    }
+};
+
+} // namespace
+
+TransitionList::TransitionList(QWidget* parent)
+    : QTreeWidget(parent)
+{
+    setObjectName(QStringLiteral("transitions"));
+    setAccessibleName(tr("Workflows and their transitions"));
+    setColumnCount(2);
+    setHeaderHidden(true);
+    setUniformRowHeights(true);
+    setItemDelegate(new AiryRows(this));
+    setRootIsDecorated(false);
+    setItemsExpandable(false);
+    setExpandsOnDoubleClick(false);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    header()->setStretchLastSection(false);
+    header()->setSectionResizeMode(NameColumn, QHeaderView::Stretch);
+    header()->setSectionResizeMode(CountColumn, QHeaderView::ResizeToContents);
+    connect(this, &QTreeWidget::itemSelectionChanged, this, &TransitionList::tellSelection);
+}
+
+void TransitionList::setTransitions(const std::vector<SpTransition>& transitions)
+{
+    const QSignalBlocker quiet(this);
+    const QList<QTreeWidgetItem*> selected = selectedItems();
+    const auto chosen =
+        selected.isEmpty()
+            ? std::nullopt
+            : std::optional<LONG>(selected.first()->data(NameColumn, kIdRole).toInt());
+    const int scrolled = verticalScrollBar()->value();
+    m_transitions = transitions;
+    clear();
+    QTreeWidgetItem* workflow = nullptr;
+    for (const SpTransition& transition : m_transitions) {
+        if (workflow == nullptr || workflow->text(NameColumn) != transition.workflow.str()) {
+            workflow = new QTreeWidgetItem(this, {transition.workflow.str()});
+            workflow->setFlags(Qt::ItemIsEnabled);
+            workflow->setToolTip(NameColumn, transition.workflow.str().toHtmlEscaped());
+            QFont bold = font();
+            bold.setBold(true);
+            workflow->setFont(NameColumn, bold);
+        }
+        fillItem(*new QTreeWidgetItem(workflow), transition);
+    }
+    expandAll();
+    select(chosen);
+    verticalScrollBar()->setValue(scrolled);
+}
+
+void TransitionList::select(std::optional<LONG> id)
+{
+    const QSignalBlocker quiet(this);
+    QTreeWidgetItem* item = id ? itemOf(*id) : nullptr;
+    if (item == nullptr)
+        clearSelection();
+    else
+        setCurrentItem(item);
+    // With its signals blocked the model's selection has not reached the view.
+    viewport()->update();
+}
+
+void TransitionList::setUnsaved(std::optional<LONG> id)
+{
+    m_unsaved = id;
+    for (const SpTransition& transition : m_transitions) {
+        if (QTreeWidgetItem* item = itemOf(transition.id))
+            fillItem(*item, transition);
+    }
+}
+
+QTreeWidgetItem* TransitionList::itemOf(LONG id) const
+{
+    for (int i = 0; i < topLevelItemCount(); ++i) {
+        for (int j = 0; j < topLevelItem(i)->childCount(); ++j) {
+            QTreeWidgetItem* item = topLevelItem(i)->child(j);
+            if (item->data(NameColumn, kIdRole).toInt() == id)
+                return item;
+        }
+    }
+    return nullptr;
+}
+
+void TransitionList::changeEvent(QEvent* event)
+{
+    QTreeWidget::changeEvent(event);
+    // The muted colour of the empty mark is the palette's.
+    if (event->type() == QEvent::PaletteChange)
+        setUnsaved(m_unsaved);
+}
+
+void TransitionList::tellSelection()
+{
+    const QList<QTreeWidgetItem*> selected = selectedItems();
+    if (!selected.isEmpty())
+        Q_EMIT transitionChosen(selected.first()->data(NameColumn, kIdRole).toInt());
+}
+
+void TransitionList::fillItem(QTreeWidgetItem& item, const SpTransition& transition) const
+{
+    const bool isUnsaved = m_unsaved == transition.id;
+    const QString name = transition.name.str();
+    item.setData(NameColumn, kIdRole, transition.id);
+    // In front, where it is never elided.
+    item.setText(NameColumn, isUnsaved ? tr("* %1").arg(name) : name);
+    item.setToolTip(NameColumn,
+                    (isUnsaved ? tr("%1 (not saved)").arg(name) : name).toHtmlEscaped());
+    const bool isEmpty = transition.records == 0;
+    item.setText(CountColumn, isEmpty ? tr("empty") : QString::number(transition.records));
+    item.setTextAlignment(CountColumn, Qt::AlignRight | Qt::AlignVCenter);
+    item.setForeground(CountColumn, palette().brush(QPalette::PlaceholderText));
+    QFont shown = font();
+    shown.setItalic(isEmpty);
+    item.setFont(CountColumn, shown);
+    item.setToolTip(CountColumn,
+                    isEmpty ? tr("There is no condition yet")
+                            : tr("Rows and groups of the condition: %1").arg(transition.records));
+}
+
+} // namespace condtree::workbench

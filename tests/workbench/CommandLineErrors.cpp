@@ -1,0 +1,235 @@
+#include "Program.h"
+
+using namespace condtree;
+using namespace condtree::test;
+
+namespace {
+
+const char* const kTransition = "Document Approval/Approve";
+
+class CommandLineErrors : public Program {
+protected:
+    /// Expects one line on the error stream, nothing on the output and the exit code 2.
+    static void expectError(const Finished& run, const QString& line, const std::string& name)
+    {
+        EXPECT_EQ(run.errors.toStdString(), "condtree-workbench: " + line.toStdString() + "\n")
+            << name;
+        EXPECT_EQ(run.output.toStdString(), "") << name;
+        EXPECT_EQ(run.exitCode, 2) << name;
+    }
+
+    /// Imports a file, which must be refused with a line that begins with the file's name.
+    void expectImportRefused(const QString& file, const QString& line,
+                             const std::string& name) const
+    {
+        expectError(runOn(kTransition, {QStringLiteral("--import"), file}),
+                    file + QStringLiteral(": ") + line, name);
+    }
+};
+
+QString text(const char* utf8)
+{
+    return QString::fromUtf8(utf8);
+}
+
+TEST_F(CommandLineErrors, AWrongCommandLineIsRefusedWithoutADatabaseOrADisplay)
+{
+    struct Row {
+        const char* name;
+        QStringList arguments;
+        const char* line;
+    };
+    const Row rows[] = {
+        {"unknown", {text("--foo")}, "unknown option \"--foo\""},
+        {"unknown beside a task", {text("--list"), text("--foo")}, "unknown option \"--foo\""},
+        {"a word", {text("x.json")}, "unexpected argument \"x.json\""},
+        {"no value", {text("--export")}, "--export needs a value: FILE"},
+        {"no value before another",
+         {text("--transition"), text("--print")},
+         "--transition needs a value: NAME"},
+        {"import alone", {text("--import"), text("x")}, "--import needs --transition"},
+    };
+    for (const Row& row : rows)
+        expectError(runPlain(row.arguments), text(row.line), row.name);
+    EXPECT_FALSE(QFile::exists(m_database.file("data")));
+}
+
+TEST_F(CommandLineErrors, WhatIsNotThereIsNamed)
+{
+    struct Row {
+        const char* name;
+        QStringList arguments;
+        QString line;
+    };
+    const Row rows[] = {
+        {"a transition",
+         {text("--print"), text("--transition"), text("Nothing/Here")},
+         text("there is no transition \"Nothing/Here\"")},
+        {"a transition's name alone",
+         {text("--print"), text("--transition"), text("Approve")},
+         text("there is no transition \"Approve\"")},
+        {"a transition in another case",
+         {text("--print"), text("--transition"), text("document approval/approve")},
+         text("there is no transition \"document approval/approve\"")},
+        {"a transition for the list",
+         {text("--list"), text("--transition"), text("x")},
+         text("there is no transition \"x\"")},
+        {"a user",
+         {text("--list"), text("--user"), text("nobody")},
+         text("the database %1 has no user \"nobody\"").arg(m_database.url())},
+        {"a language",
+         {text("--list"), text("--lang"), text("qq")},
+         text("there are no texts in the language \"qq\"")},
+    };
+    for (const Row& row : rows)
+        expectError(run(row.arguments), row.line, row.name);
+}
+
+TEST_F(CommandLineErrors, ADatabaseThatCannotBeOpenedIsNamed)
+{
+    const QString notOurs = SpSqliteUrl(fileOf("text.db", QByteArray(5000, 'x')));
+    for (const QString& url : {notOurs, text("sqlite:///no/such/folder/x.db"),
+                               text("sqlite:///tmp"), text("nonsense")}) {
+        const Finished failed = runPlain({text("--db"), url, text("--list")});
+        EXPECT_TRUE(failed.errors.startsWith("condtree-workbench: cannot open the database "
+                                             + url.toUtf8() + ": "))
+            << failed.errors.toStdString();
+        EXPECT_EQ(failed.errors.count('\n'), 1) << failed.errors.toStdString();
+        EXPECT_GT(failed.errors.size(), url.size() + 60) << "no reason is given";
+        EXPECT_EQ(failed.exitCode, 2);
+        EXPECT_EQ(failed.output.toStdString(), "");
+    }
+}
+
+TEST_F(CommandLineErrors, AWindowThatCannotBeOpenedIsAnErrorToo)
+{
+    const QList<std::pair<QString, QString>> offscreen{
+        {text("QT_QPA_PLATFORM"), text("offscreen")}};
+    expectError(
+        runPlain({text("--db"), m_database.url(), text("--transition"), text("x")}, {}, offscreen),
+        text("there is no transition \"x\""), "a transition");
+    expectError(
+        runPlain({text("--db"), m_database.url(), text("--user"), text("x")}, {}, offscreen),
+        text("the database %1 has no user \"x\"").arg(m_database.url()), "a user");
+}
+
+TEST_F(CommandLineErrors, AFailureAfterAnotherTaskKeepsWhatThatDid)
+{
+    const Finished listed = run({text("--list"), text("--export"), text("/no/such/folder/x.json")});
+    EXPECT_EQ(listed.exitCode, 2);
+    EXPECT_EQ(listed.output.count('\n'), 12);
+    EXPECT_EQ(listed.errors.toStdString(),
+              "condtree-workbench: /no/such/folder/x.json: cannot be written: No such file or "
+              "directory\n");
+}
+
+TEST_F(CommandLineErrors, WhatCannotBeWrittenIsNamed)
+{
+    expectError(run({text("--screenshot"), text("/no/such/folder/x.png")}),
+                text("/no/such/folder/x.png: cannot be written: No such file or directory"),
+                "a picture");
+    // Through an open stream only: a file name could replace the device if the code were wrong.
+    for (const char* task : {"--list", "--print", "--export=-"})
+        expectError(
+            runPlain({text("--db"), m_database.url(), text(task)}, {}, {}, text("/dev/full")),
+            text("standard output: cannot be written: No space left on device"), task);
+}
+
+TEST_F(CommandLineErrors, EveryBadImportIsOneLineAndLeavesTheDatabaseAlone)
+{
+    const QByteArray good = R"({"format":"condtree-condition","version":1,"records":[
+{"rowKind":3,"condType":2,"name":"","extra":"","value":"v","argType":1,"operator":100}
+]}
+)";
+    const auto with = [&](const char* part, const char* other) {
+        return QByteArray(good).replace(part, other);
+    };
+    struct Row {
+        const char* name;
+        QByteArray content;
+        const char* line;
+    };
+    const Row rows[] = {
+        {"empty", "", "the file is empty"},
+        {"no JSON", "hello\n", "not JSON: illegal value (byte 1, line 1)"},
+        {"cut", good.first(100), "not JSON: unterminated string (byte 100, line 2)"},
+        {"another format", with("condtree-condition", "x"),
+         "format: \"condtree-condition\" is expected, not \"x\""},
+        {"another version", with("\"version\":1", "\"version\":2"),
+         "version: 1 is expected, not 2"},
+        {"a field is missing", with(",\"operator\":100", ""),
+         "records[0].operator: the field is missing"},
+        {"a field is of another type", with(":100", ":\"100\""),
+         "records[0].operator: a number is expected, not a text"},
+        {"an unknown field", with("\"extra\"", "\"extr\\na\":\"\",\"extra\""),
+         "records[0]: the field \"extr\\u000aa\" is unknown"},
+        {"a fraction", with(":100", ":1.5"),
+         "records[0].operator: 1.5 is no whole number of 32 bits"},
+        {"too large a number", with(":100", ":2147483648"),
+         "records[0].operator: 2147483648 is no whole number of 32 bits"},
+        {"a key twice", with("\"argType\":1", "\"argType\":1,\"argType\":1"),
+         "not JSON: the key \"argType\" is given twice (byte 126, line 2)"},
+        {"an unpaired surrogate", with("\"v\"", "\"\\ud800\""),
+         "records[0].value: the text holds the unpaired surrogate U+D800"},
+        {"a null character", with("\"v\"", "\"\\u0000\""),
+         "records[0].value: the text holds U+0000"},
+        {"too deep", QByteArray(100000, '['),
+         "not JSON: too deeply nested document (byte 1025, line 1)"},
+        {"UTF-16", QByteArray("\xFF\xFE{\0", 4),
+         "the text is in UTF-16 or UTF-32; UTF-8 is expected"},
+    };
+    const auto before = m_database.conditions();
+    for (const Row& row : rows)
+        expectImportRefused(fileOf("bad.json", row.content), text(row.line), row.name);
+    EXPECT_TRUE(sameConditions(m_database.conditions(), before));
+}
+
+TEST_F(CommandLineErrors, AFileThatIsTooLargeIsRefusedByItsSize)
+{
+    const auto before = m_database.conditions();
+    QFile file(m_database.file("large.json"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    ASSERT_TRUE(file.resize(100'000'000)); // without blocks on the disk
+    file.close();
+    expectImportRefused(file.fileName(), text("100000000 bytes; the limit is 67108864 bytes"),
+                        "large");
+    expectError(runOn(kTransition, {text("--import"), text("-")}, QByteArray(67'108'865, ' ')),
+                text("standard input: more than the limit of 67108864 bytes"), "a large stream");
+    // Blanks up to the limit are read, and are still no condition.
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(QByteArray(67'108'864, ' '));
+    file.close();
+    expectImportRefused(file.fileName(), text("not JSON: illegal value (byte 67108864, line 1)"),
+                        "blanks");
+    EXPECT_TRUE(sameConditions(m_database.conditions(), before));
+}
+
+TEST_F(CommandLineErrors, WhatIsNoFileCannotBeImported)
+{
+    const auto before = m_database.conditions();
+    expectImportRefused(m_database.file("none.json"),
+                        text("cannot be read: No such file or directory"), "missing");
+    expectImportRefused(text("/tmp"), text("is a folder, not a file"), "a folder");
+    expectImportRefused(text("/dev/zero"), text("more than the limit of 67108864 bytes"),
+                        "a device");
+    EXPECT_TRUE(sameConditions(m_database.conditions(), before));
+}
+
+TEST_F(CommandLineErrors, WhatTheDatabaseRefusesNamesTheFileAndLeavesTheConditionAlone)
+{
+    const auto before = m_database.conditions();
+    QByteArray json = R"({"format":"condtree-condition","version":1,"records":[
+{"rowKind":3,"condType":2,"name":"","extra":"","value":"VALUE","argType":1,"operator":100}
+]}
+)";
+    const QString file = fileOf("huge.json", json.replace("VALUE", QByteArray(20'000'000, 'x')));
+    const Finished refused = runOn(kTransition, {text("--import"), file});
+    EXPECT_EQ(refused.exitCode, 2);
+    EXPECT_TRUE(refused.errors.startsWith("condtree-workbench: " + file.toUtf8()
+                                          + ": cannot save the condition of " + kTransition + ": "))
+        << refused.errors.left(300).toStdString();
+    EXPECT_EQ(refused.errors.count('\n'), 1);
+    EXPECT_TRUE(sameConditions(m_database.conditions(), before));
+}
+
+} // namespace

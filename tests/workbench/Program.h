@@ -1,0 +1,80 @@
+#pragma once
+
+#include "SampleDatabase.h"
+
+#include <QFile>
+#include <QProcess>
+#include <QProcessEnvironment>
+
+namespace condtree::test {
+
+/// How a run of the program ended and what it wrote.
+struct Finished {
+    int exitCode = -1;
+    QByteArray output;
+    QByteArray errors;
+};
+
+/// Runs the real program over a sample database of the test's own, without a display.
+class Program : public testing::Test {
+protected:
+    /// Runs it with these arguments and nothing else.
+    Finished runPlain(const QStringList& arguments, const QByteArray& input = {},
+                      const QList<std::pair<QString, QString>>& environment = {},
+                      const QString& outputFile = {}) const
+    {
+        QProcess process;
+        QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
+        for (const char* name :
+             {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "XDG_RUNTIME_DIR"})
+            variables.remove(QLatin1String(name));
+        variables.insert(QStringLiteral("XDG_DATA_HOME"), m_database.file("data"));
+        for (const auto& [name, value] : environment)
+            variables.insert(name, value);
+        process.setProcessEnvironment(variables);
+        if (!outputFile.isEmpty())
+            process.setStandardOutputFile(outputFile);
+        process.start(QStringLiteral(CONDTREE_WORKBENCH), arguments);
+        process.write(input);
+        process.closeWriteChannel();
+        constexpr int kPatience = 60000; // ms
+        EXPECT_TRUE(process.waitForFinished(kPatience)) << process.errorString().toStdString();
+        EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+        return {process.exitCode(), process.readAllStandardOutput(),
+                process.readAllStandardError()};
+    }
+
+    /// Runs it on the sample database.
+    Finished run(const QStringList& arguments, const QByteArray& input = {}) const
+    {
+        return runPlain(QStringList{QStringLiteral("--db"), m_database.url()} + arguments, input);
+    }
+
+    /// The same, for one transition.
+    Finished runOn(const char* transition, const QStringList& arguments,
+                   const QByteArray& input = {}) const
+    {
+        return run(QStringList{QStringLiteral("--transition"), QString::fromUtf8(transition)}
+                       + arguments,
+                   input);
+    }
+
+    static std::string outputOf(const Finished& run)
+    {
+        EXPECT_EQ(run.exitCode, 0);
+        EXPECT_EQ(run.errors.toStdString(), "");
+        return run.output.toStdString();
+    }
+
+    QString fileOf(const char* name, const QByteArray& content) const
+    {
+        QFile file(m_database.file(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        return file.fileName();
+    }
+
+    SampleDatabase m_database;
+};
+
+} // namespace condtree::test

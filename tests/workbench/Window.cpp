@@ -1,0 +1,120 @@
+#include "WindowFixture.h"
+
+using namespace condtree;
+using namespace condtree::test;
+using namespace condtree::workbench;
+
+namespace {
+
+using Window = WindowTest;
+
+TEST_F(Window, ATransitionIsOpenedByAClick)
+{
+    click("Document Approval/Approve");
+    EXPECT_EQ(label("title"), QStringLiteral("Approve"));
+    EXPECT_EQ(label("states"), QStringLiteral("Document Approval: In Review \u2192 Approved"));
+    EXPECT_TRUE(label("lastChange").startsWith(QStringLiteral("Last changed by fhoffmann, ")));
+    EXPECT_TRUE(label("lastChange").contains(QStringLiteral("2024")));
+    EXPECT_EQ(label("warning"), QStringLiteral("(hidden)"));
+    EXPECT_EQ(m_window->windowTitle(), QStringLiteral("Document Approval/Approve[*]"));
+    EXPECT_EQ(editor().control().model()->rowCount(), 6);
+    EXPECT_TRUE(editor().control().isExpanded(editor().control().model()->index(3, 0)));
+    expectUnsaved(false);
+}
+
+TEST_F(Window, ATransitionThatNobodyChangedSaysSo)
+{
+    click("Document Approval/Withdraw");
+    EXPECT_EQ(label("lastChange"), QStringLiteral("Never changed"));
+    EXPECT_EQ(editor().control().model()->rowCount(), 1);
+    expectUnsaved(false);
+}
+
+TEST_F(Window, NoTransitionOfTheSampleIsUnsavedRightAfterLoading)
+{
+    for (const SpTransition& transition : list().transitions()) {
+        click(qUtf8Printable(transitionTitle(transition)));
+        EXPECT_EQ(shownTransition(), transitionTitle(transition));
+        expectUnsaved(false);
+        EXPECT_EQ(label("warning"), QStringLiteral("(hidden)"));
+    }
+}
+
+TEST_F(Window, ItTellsWhereItIsConnected)
+{
+    EXPECT_EQ(label("connection"), QStringLiteral("%1 on sample.db").arg(m_database->userName()));
+}
+
+TEST_F(Window, NamesAreNeverReadAsMarkUp)
+{
+    for (const char* name : {"title", "states", "lastChange", "warning", "connection"})
+        EXPECT_EQ(m_window->findChild<QLabel*>(QLatin1String(name))->textFormat(), Qt::PlainText)
+            << name;
+}
+
+TEST_F(Window, AnEditMarksTheTransitionAndUndoingItUnmarksIt)
+{
+    const QString before = firstValue();
+    edit("changed");
+    expectUnsaved(true);
+    edit("changed again");
+    expectUnsaved(true);
+    edit(qUtf8Printable(before));
+    expectUnsaved(false);
+}
+
+TEST_F(Window, ImportingWhatIsThereAlreadyChangesNothing)
+{
+    const QString file = m_sample.file("same.json");
+    const Answers answers({choose(file), choose(file)});
+    trigger("export");
+    trigger("import");
+    expectUnsaved(false);
+}
+
+TEST_F(Window, AnImportAsksBeforeItReplacesChanges)
+{
+    edit("mine");
+    const Answers answers({choose(importFile()), press(QMessageBox::Cancel, "not saved")});
+    trigger("import");
+    EXPECT_EQ(firstValue(), QStringLiteral("mine"));
+    expectUnsaved(true);
+}
+
+TEST_F(Window, ABadImportIsToldAndKeepsTheRows)
+{
+    edit("mine");
+    const QString bad = fileOf("bad.json", "{}");
+    const Answers answers({choose(bad), press(QMessageBox::Discard, "not saved"),
+                           press(QMessageBox::Ok, "format: the field is missing")});
+    trigger("import");
+    EXPECT_EQ(firstValue(), QStringLiteral("mine"));
+    expectUnsaved(true);
+}
+
+TEST_F(Window, AFileDialogThatIsCancelledDoesNothing)
+{
+    const Answers answers({cancel, cancel});
+    trigger("import");
+    trigger("export");
+    expectUnsaved(false);
+}
+
+TEST(EmptyWindow, ADatabaseWithoutTransitionsIsAnEmptyWindow)
+{
+    const QTemporaryDir folder;
+    const auto database =
+        workbench::Database::open(SpSqliteUrl(folder.filePath(QStringLiteral("new.db"))), {});
+    ASSERT_TRUE(database.hasValue());
+    MainWindow window(*database.value(), {}, realServices());
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    EXPECT_EQ(window.findChild<QLabel*>(QStringLiteral("title"))->text(),
+              QStringLiteral("No transition is open"));
+    EXPECT_FALSE(window.editor().control().isVisible());
+    for (const char* name : {"save", "revert", "import", "export"})
+        EXPECT_FALSE(window.findChild<QAction*>(QLatin1String(name))->isEnabled()) << name;
+    EXPECT_TRUE(window.close());
+}
+
+} // namespace
