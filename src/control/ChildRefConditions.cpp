@@ -19,8 +19,9 @@ bool hasChildRefConditions(const VarTreeCtrlNode* node)
 
 void removeChildRefConditions(ConditionModel& model, VarTreeCtrlNode* node)
 {
-    if (node == nullptr)
+    if (!hasChildRefConditions(node))
         return;
+    const ConditionModel::Bulk bulk(model);
     for (VarTreeCtrlNode* child : node->mChildren) {
         if (child->mlCode == NodeOr)
             removeChildRefConditions(model, child);

@@ -2,6 +2,7 @@
 
 #include <condtree/control/ChildRefConditions.h>
 #include <condtree/control/CondTreeParts.h>
+#include <condtree/control/ViewState.h>
 #include <condtree/platform/NativeText.h>
 #include <condtree/presentation/CustomDraw.h>
 #include <condtree/values/CommandCatalogue.h>
@@ -37,9 +38,10 @@ void setUpView(QTreeView& view)
     view.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }
 
-NMTVCUSTOMDRAW notification(QWidget* from, QPainter* painter, const QRect& rect, HTREEITEM item)
+NMTVCUSTOMDRAW notification(const QWidget* from, QPainter* painter, const QRect& rect,
+                            HTREEITEM item)
 {
-    return {{from, 0, NM_CUSTOMDRAW},
+    return {{const_cast<QWidget*>(from), 0, NM_CUSTOMDRAW},
             0,
             painter,
             {rect.left(), rect.top(), rect.right() + 1, rect.bottom() + 1},
@@ -60,9 +62,16 @@ CondTreeCtrl::CondTreeCtrl(QWidget* parent, Services services)
     setItemDelegate(&m_parts->delegate);
     setModel(&m_parts->model);
     connect(&m_parts->model, &ConditionModel::expandRequested, this, &QTreeView::expand);
+    connect(&m_parts->model, &ConditionModel::textsChanged, viewport(),
+            qOverload<>(&QWidget::update));
 }
 
-CondTreeCtrl::~CondTreeCtrl() = default;
+// The tree goes now, also when an operation that shows a message still holds the parts: it sees
+// that it was overtaken.
+CondTreeCtrl::~CondTreeCtrl()
+{
+    m_parts->model.remove(TVI_ROOT);
+}
 
 void CondTreeCtrl::mvInitialize(SpMgr* manager, LONG dateStyle, KiroVaultType vaultType,
                                 TreeType treeType)
@@ -94,7 +103,9 @@ KiroVaultType CondTreeCtrl::meGetVaultType() const
 void CondTreeCtrl::mvLoad(const std::vector<TransCond>& records, VarTreeCtrlNode* node)
 {
     const auto parts = m_parts;
+    const ViewState state(*this, parts->model);
     parts->loader.load(records, node);
+    state.restore();
 }
 
 void CondTreeCtrl::mvSave(std::vector<TransCond>& records, VarTreeCtrlNode* node,
@@ -128,7 +139,9 @@ bool CondTreeCtrl::mbHaveChildRefConditions(VarTreeCtrlNode* node)
 void CondTreeCtrl::mvRemoveChildRefConditions(VarTreeCtrlNode* node)
 {
     const auto parts = m_parts;
+    const ViewState state(*this, parts->model);
     removeChildRefConditions(parts->model, node == nullptr ? parts->model.top() : node);
+    state.restore();
 }
 
 int CondTreeCtrl::miGetColumnSize(int column, int totalWidth) const
@@ -257,6 +270,7 @@ bool CondTreeCtrl::mbResetComparisonOperator(ArgType type, ComboCmd op)
 void CondTreeCtrl::mvUpdateTypeName(VarTreeCtrlNode& node)
 {
     m_parts->model.updateTypeName(node);
+    m_parts->model.tellTextsChanged();
 }
 
 int CondTreeCtrl::miGetImage(ComboCmd nodeCode)
@@ -267,8 +281,7 @@ int CondTreeCtrl::miGetImage(ComboCmd nodeCode)
 void CondTreeCtrl::OnNMCustomdraw(NMHDR* header, LRESULT* result)
 {
     const auto& draw = *reinterpret_cast<const NMTVCUSTOMDRAW*>(header);
-    const QModelIndex row = m_parts->model.indexOf(draw.dwItemSpec);
-    *result = m_parts->drawing.handle(draw, placeOfRow(*this, row));
+    *result = m_parts->drawing.handle(draw, *this);
 }
 
 int CondTreeCtrl::miGetColorResolution()
@@ -294,11 +307,12 @@ void CondTreeCtrl::paintEvent(QPaintEvent* event)
 void CondTreeCtrl::drawRow(QPainter* painter, const QStyleOptionViewItem& option,
                            const QModelIndex& index) const
 {
-    auto* self =
-        const_cast<CondTreeCtrl*>(this); // a handler of notifications may change the control
-    const HTREEITEM item = m_parts->model.itemOf(index);
-    m_parts->drawing.drawRow(notification(self, painter, option.rect, item), self->stage(),
-                             [&] { QTreeView::drawRow(painter, option, index); });
+    const auto stage =
+        const_cast<CondTreeCtrl*>(this)->stage(); // a subclass's handler may change things
+    NMTVCUSTOMDRAW draw = notification(this, painter, option.rect, m_parts->model.itemOf(index));
+    const bool isTold = m_parts->drawing.beginRow(draw, stage);
+    QTreeView::drawRow(painter, option, index);
+    RowDrawing::endRow(draw, stage, isTold);
 }
 
 void CondTreeCtrl::changeEvent(QEvent* event)

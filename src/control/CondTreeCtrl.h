@@ -127,7 +127,8 @@ protected:
     static int miGetImage(ComboCmd nodeCode);
 
     /// The control's own drawing, by stages; header is an NMTVCUSTOMDRAW's. result may not be null.
-    void OnNMCustomdraw(NMHDR* header, LRESULT* result);
+    /// A subclass may draw otherwise: rows are told as the answers ask.
+    virtual void OnNMCustomdraw(NMHDR* header, LRESULT* result);
     /// The bits a pixel of the screen; 4 when they are not known.
     int miGetColorResolution();
 

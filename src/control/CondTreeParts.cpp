@@ -8,6 +8,13 @@ namespace condtree {
 
 namespace {
 
+bool isComplete(const Services& ports)
+{
+    return ports.messageBox && ports.string && ports.localTime && ports.tickCount && ports.cursorPos
+           && ports.systemMetric && ports.doubleClickTime && ports.bitsPerPixel && ports.registry
+           && ports.icons;
+}
+
 template <class Port>
 void fillIn(Port& port, const Port& real)
 {
@@ -17,6 +24,8 @@ void fillIn(Port& port, const Port& real)
 
 Services completed(Services ports)
 {
+    if (isComplete(ports))
+        return ports;
     const Services real = realServices();
     fillIn(ports.messageBox, real.messageBox);
     fillIn(ports.string, real.string);
@@ -60,11 +69,13 @@ QSize CondTreeParts::appendImages()
     CDPIHelper::get(); // the first control of the process makes it
     const QSize size(services.systemMetric(SM_CXSMICON), services.systemMetric(SM_CYSMICON));
     images.append(*services.icons, size, services.bitsPerPixel());
-    return size;
+    return images.rows() == nullptr ? size : images.rows()->imageSize();
 }
 
 void CondTreeParts::report(HRESULT code) const
 {
+    if (messageOwner.isNull())
+        return;
     services.messageBox(messageOwner, ResultCodeText(code, services.string), MB_OK);
 }
 

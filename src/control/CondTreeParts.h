@@ -39,9 +39,11 @@ struct CondTreeParts {
 
     /// Takes over a manager and the codes, and reads the settings.
     void setUp(SpMgr* newManager, LONG dateStyle, KiroVaultType vaultType, TreeType treeType);
-    /// Appends the pictures to the image lists. The size of one picture.
+    /// Appends the pictures to the image lists. The size of one picture, which the first call
+    /// decides.
     QSize appendImages();
-    /// Shows the message of a result code and waits until it is closed.
+    /// Shows the message of a result code and waits until it is closed. Nothing once the owner is
+    /// gone.
     void report(HRESULT code) const;
 };
 

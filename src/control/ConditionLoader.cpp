@@ -37,18 +37,21 @@ ConditionLoader::ConditionLoader(const StringSource& strings, const ControlSetti
 void ConditionLoader::load(const std::vector<TransCond>& records, VarTreeCtrlNode* node)
 {
     ensureTop(node == nullptr);
-    const HTREEITEM closed = node == nullptr ? TVI_ROOT : node->mhItem;
-    const bool closesTop = closed == TVI_ROOT;
+    VarTreeCtrlNode& top = *m_model.top();
+    VarTreeCtrlNode& closed = node == nullptr ? top : *node;
 
-    // Making rows may show messages, and those let the host in: what it did to the tree meanwhile
-    // holds.
-    Rows rows = makeRows(records, closesTop);
-    VarTreeCtrlNode* top = m_model.top();
-    if (top == nullptr)
+    // Making rows may show messages, and those let the host in: a load during which the tree was
+    // changed has been overtaken, and gives up its rows.
+    std::optional<Rows> rows = makeRows(records, &closed == &top);
+    if (!rows)
         return;
-    const std::size_t known = top->mChildren.size();
-    m_model.append(*top, std::move(rows));
-    close(closed, closesTop ? known : std::numeric_limits<std::size_t>::max());
+    {
+        const ConditionModel::Bulk bulk(m_model);
+        const std::size_t known = top.mChildren.size();
+        m_model.append(top, *std::move(rows));
+        close(closed, &closed == &top ? known : closed.mChildren.size());
+    }
+    m_model.expand(closed.mhItem);
 }
 
 void ConditionLoader::ensureTop(bool isCleared)
@@ -64,10 +67,11 @@ bool ConditionLoader::isSkipped(const TransCond& record) const
     return m_settings.vaultType == VaultTypeReduced && isDroppedOnReducedLoad(record.lCondType);
 }
 
-ConditionLoader::Rows ConditionLoader::makeRows(const std::vector<TransCond>& records,
-                                                bool closesGroups)
+std::optional<ConditionLoader::Rows>
+ConditionLoader::makeRows(const std::vector<TransCond>& records, bool closesGroups)
 {
     const Texts texts(m_strings);
+    const std::uint64_t revision = m_model.revision();
     Rows rows;
     std::vector<VarTreeCtrlNode*> groups;
     VarTreeCtrlNode* openGroup = nullptr;
@@ -83,6 +87,8 @@ ConditionLoader::Rows ConditionLoader::makeRows(const std::vector<TransCond>& re
         if (record.lRowKind != RowKindInGroup)
             openGroup = nullptr;
         ConditionModel::NodePtr row = makeCondition(record, texts);
+        if (m_model.revision() != revision)
+            return std::nullopt;
         if (openGroup == nullptr)
             rows.push_back(std::move(row));
         else
@@ -144,19 +150,17 @@ void ConditionLoader::setChildRefState(VarTreeCtrlNode& row, LONG id)
     row.mValue = m_reference.states.nameOf(-id);
 }
 
-/// Ends a level and the groups in it with their placeholders. Groups from the place knownChildren
-/// on have theirs already.
-void ConditionLoader::close(HTREEITEM item, std::size_t knownChildren)
+/// Ends a level and its first knownChildren groups with their placeholders; groups behind have
+/// theirs.
+void ConditionLoader::close(VarTreeCtrlNode& level, std::size_t knownChildren)
 {
-    VarTreeCtrlNode* level = m_model.node(item);
-    if (level == nullptr)
-        return;
-    m_model.add(*level, std::make_unique<VarTreeCtrlNode>(NodePlaceholder), false);
-    m_model.expand(item);
-    const std::vector<VarTreeCtrlNode*> children = level->mChildren;
-    for (std::size_t i = 0; i < children.size() && i < knownChildren; ++i) {
-        if (children[i]->mlCode == NodeOr)
-            m_model.add(*children[i], std::make_unique<VarTreeCtrlNode>(NodePlaceholder), false);
+    const std::vector<VarTreeCtrlNode*> children(level.mChildren.begin(),
+                                                 level.mChildren.begin()
+                                                     + static_cast<std::ptrdiff_t>(knownChildren));
+    m_model.add(level, std::make_unique<VarTreeCtrlNode>(NodePlaceholder), false);
+    for (VarTreeCtrlNode* child : children) {
+        if (child->mlCode == NodeOr)
+            m_model.add(*child, std::make_unique<VarTreeCtrlNode>(NodePlaceholder), false);
     }
 }
 

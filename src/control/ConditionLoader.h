@@ -6,6 +6,7 @@
 #include <condtree/platform/TextRef.h>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace condtree {
@@ -21,7 +22,8 @@ public:
                     ReferenceData& reference, ConditionModel& model);
 
     /// Shows records: with node null in place of what the tree holds, else in addition to it, the
-    /// closing placeholder going under node. Linear in the records.
+    /// closing placeholder going under node. Linear in the records. Nothing is added when the tree
+    /// is changed while a message is shown.
     void load(const std::vector<TransCond>& records, VarTreeCtrlNode* node);
 
 private:
@@ -29,13 +31,15 @@ private:
     using Rows = std::vector<ConditionModel::NodePtr>;
 
     void ensureTop(bool isCleared);
-    [[nodiscard]] Rows makeRows(const std::vector<TransCond>& records, bool closesGroups);
+    /// None when the tree was changed meanwhile.
+    [[nodiscard]] std::optional<Rows> makeRows(const std::vector<TransCond>& records,
+                                               bool closesGroups);
     [[nodiscard]] bool isSkipped(const TransCond& record) const;
     [[nodiscard]] ConditionModel::NodePtr makeCondition(const TransCond& record,
                                                         const Texts& texts);
     void setValue(VarTreeCtrlNode& row, const TransCond& record, const Texts& texts);
     void setChildRefState(VarTreeCtrlNode& row, LONG id);
-    void close(HTREEITEM item, std::size_t knownChildren);
+    void close(VarTreeCtrlNode& level, std::size_t knownChildren);
 
     const StringSource& m_strings;
     const ControlSettings& m_settings;

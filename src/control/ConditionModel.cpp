@@ -5,8 +5,7 @@
 #include <condtree/values/CommandCatalogue.h>
 #include <condtree/values/OperatorCatalogue.h>
 
-#include <QHash>
-#include <QImage>
+#include <QPixmap>
 #include <QStringList>
 
 #include <algorithm>
@@ -16,11 +15,31 @@ namespace condtree {
 namespace {
 // Groups are small: the first block of a level's list.
 constexpr std::size_t kFirstChildren = 10;
+
+// The labels that nodes take from their codes are kept in the order of the codes.
+static_assert(NodePlaceholder + 1 == NodeAnd && NodeAnd + 1 == NodeOr);
 } // namespace
 
-ConditionModel::ConditionModel(const StringSource& strings, const ConditionImages& images)
+// Resetting costs the same however many rows come or go, where telling of each would cost a step
+// for every open group each time.
+ConditionModel::Bulk::Bulk(ConditionModel& model)
+    : m_model(model)
+{
+    if (m_model.m_bulks++ == 0)
+        m_model.beginResetModel();
+}
+
+ConditionModel::Bulk::~Bulk()
+{
+    if (--m_model.m_bulks == 0)
+        m_model.endResetModel();
+}
+
+ConditionModel::ConditionModel(const StringSource& strings, const ConditionImages& images,
+                               std::size_t roomOfLevel)
     : m_strings(strings)
     , m_images(images)
+    , m_roomOfLevel(roomOfLevel)
 {
 }
 
@@ -74,15 +93,26 @@ std::vector<CString> ConditionModel::typeLabels() const
     return labels;
 }
 
-void ConditionModel::enter(VarTreeCtrlNode& node, VarTreeCtrlNode& parent,
+bool ConditionModel::isShown(const VarTreeCtrlNode& node) const
+{
+    return m_bulks == 0 && holds(node);
+}
+
+void ConditionModel::enter(VarTreeCtrlNode& node, VarTreeCtrlNode& parent, int place,
                            const std::vector<CString>& labels)
 {
     if (typeLabel(node.mlCode) != nullptr)
         node.mName = labels[static_cast<std::size_t>(node.mlCode - NodePlaceholder)];
     node.mpParent = &parent;
-    node.mhItem = m_items.add(node, rowImageIndex(node.mlCode));
+    node.mhItem = m_items.add(node, rowImageIndex(node.mlCode), place);
+    enterChildren(node, labels);
+}
+
+void ConditionModel::enterChildren(VarTreeCtrlNode& node, const std::vector<CString>& labels)
+{
+    int place = 0;
     for (VarTreeCtrlNode* child : node.mChildren)
-        enter(*child, node, labels);
+        enter(*child, node, place++, labels);
 }
 
 void ConditionModel::leave(VarTreeCtrlNode& node)
@@ -95,7 +125,8 @@ void ConditionModel::leave(VarTreeCtrlNode& node)
 
 ConditionModel::NodePtr ConditionModel::setTop(NodePtr node)
 {
-    beginResetModel();
+    const Bulk bulk(*this);
+    ++m_revision;
     if (m_top)
         leave(*m_top);
     std::swap(m_top, node);
@@ -103,33 +134,31 @@ ConditionModel::NodePtr ConditionModel::setTop(NodePtr node)
         updateTypeName(*m_top);
         m_top->mpParent = nullptr;
         m_top->mhItem = TVI_ROOT;
-        const std::vector<CString> labels = typeLabels();
-        for (VarTreeCtrlNode* child : m_top->mChildren)
-            enter(*child, *m_top, labels);
+        enterChildren(*m_top, typeLabels());
     }
-    endResetModel();
     return node;
 }
 
 HTREEITEM ConditionModel::add(VarTreeCtrlNode& parent, NodePtr node, bool first)
 {
-    if (holds(*node))
-        return node.release()->mhItem; // it has its place and its owner already
-    requireRoomInList(parent.mChildren.size());
+    requireRoomInList(parent.mChildren.size(), m_roomOfLevel);
     if (parent.mChildren.capacity() == 0)
         parent.mChildren.reserve(kFirstChildren);
-    const bool isShown = holds(parent);
+    const bool isTold = isShown(parent);
     const int row = first ? 0 : static_cast<int>(parent.mChildren.size());
-    if (isShown)
+    ++m_revision;
+    if (isTold)
         beginInsertRows(indexOfNode(parent), row, row);
     VarTreeCtrlNode* added = node.release();
     parent.mChildren.insert(parent.mChildren.begin() + row, added);
     added->mpParent = &parent;
-    updateTypeName(*added);
-    if (isShown) {
-        enter(*added, parent, typeLabels());
+    const bool needsLabels = typeLabel(added->mlCode) != nullptr || !added->mChildren.empty();
+    if (holds(parent))
+        enter(*added, parent, row, needsLabels ? typeLabels() : std::vector<CString>());
+    else
+        updateTypeName(*added);
+    if (isTold)
         endInsertRows();
-    }
     return added->mhItem;
 }
 
@@ -137,10 +166,11 @@ HTREEITEM ConditionModel::attach(VarTreeCtrlNode* parent, VarTreeCtrlNode* node,
 {
     if (node == nullptr)
         return nullptr;
+    if (holds(*node))
+        return node->mhItem; // it has its place and its owner already
     if (parent != nullptr)
         return add(*parent, NodePtr(node), first);
-    if (node != m_top.get())
-        static_cast<void>(setTop(NodePtr(node)).release());
+    static_cast<void>(setTop(NodePtr(node)).release()); // the caller's again
     return TVI_ROOT;
 }
 
@@ -148,16 +178,20 @@ void ConditionModel::append(VarTreeCtrlNode& parent, std::vector<NodePtr> nodes)
 {
     if (nodes.empty())
         return;
-    requireRoomInList(parent.mChildren.size() + nodes.size() - 1);
+    requireRoomInList(parent.mChildren.size() + nodes.size() - 1, m_roomOfLevel);
     const std::vector<CString> labels = typeLabels();
-    const int row = static_cast<int>(parent.mChildren.size());
+    const bool isTold = isShown(parent);
+    int row = static_cast<int>(parent.mChildren.size());
     parent.mChildren.reserve(parent.mChildren.size() + nodes.size());
-    beginInsertRows(indexOfNode(parent), row, row + static_cast<int>(nodes.size()) - 1);
+    ++m_revision;
+    if (isTold)
+        beginInsertRows(indexOfNode(parent), row, row + static_cast<int>(nodes.size()) - 1);
     for (NodePtr& node : nodes) {
         parent.mChildren.push_back(node.release());
-        enter(*parent.mChildren.back(), parent, labels);
+        enter(*parent.mChildren.back(), parent, row++, labels);
     }
-    endInsertRows();
+    if (isTold)
+        endInsertRows();
 }
 
 void ConditionModel::remove(HTREEITEM item)
@@ -171,59 +205,31 @@ void ConditionModel::remove(HTREEITEM item)
         return;
     VarTreeCtrlNode& parent = *removed->mpParent;
     const int row = m_items.place(item, parent.mChildren);
-    if (row >= 0) {
+    const bool isTold = row >= 0 && isShown(parent);
+    ++m_revision;
+    if (isTold)
         beginRemoveRows(indexOfNode(parent), row, row);
-        parent.mChildren.erase(parent.mChildren.begin() + row);
-    }
-    leave(*removed);
     if (row >= 0)
+        parent.mChildren.erase(parent.mChildren.begin() + row);
+    leave(*removed);
+    if (isTold)
         endRemoveRows();
 }
 
 void ConditionModel::removeChildren(VarTreeCtrlNode& parent,
                                     const std::function<bool(const VarTreeCtrlNode&)>& picked)
 {
-    std::vector<VarTreeCtrlNode*> order = parent.mChildren;
-    const auto firstPicked = std::stable_partition(
-        order.begin(), order.end(), [&](const VarTreeCtrlNode* child) { return !picked(*child); });
-    const int kept = static_cast<int>(firstPicked - order.begin());
-    const int last = static_cast<int>(order.size()) - 1;
-    if (kept > last)
-        return;
-    const bool isShown = holds(parent);
-    if (order != parent.mChildren)
-        moveToEnd(parent, order);
-    if (isShown)
-        beginRemoveRows(indexOfNode(parent), kept, last);
-    const std::vector<VarTreeCtrlNode*> removed(parent.mChildren.begin() + kept,
-                                                parent.mChildren.end());
-    parent.mChildren.resize(static_cast<std::size_t>(kept));
-    for (VarTreeCtrlNode* node : removed) {
-        leave(*node);
-        delete node;
+    const Bulk bulk(*this);
+    ++m_revision;
+    std::vector<VarTreeCtrlNode*>& children = parent.mChildren;
+    const auto firstPicked =
+        std::stable_partition(children.begin(), children.end(),
+                              [&](const VarTreeCtrlNode* child) { return !picked(*child); });
+    for (auto child = firstPicked; child != children.end(); ++child) {
+        leave(**child);
+        delete *child;
     }
-    if (isShown)
-        endRemoveRows();
-}
-
-// One layout change and one removal cost less than a removal a row, each of which moves all that
-// follow.
-void ConditionModel::moveToEnd(VarTreeCtrlNode& parent, const std::vector<VarTreeCtrlNode*>& order)
-{
-    Q_EMIT layoutAboutToBeChanged();
-    const QModelIndexList before = persistentIndexList();
-    parent.mChildren = order;
-    int place = 0;
-    QHash<quintptr, int> places;
-    for (const VarTreeCtrlNode* child : order)
-        places.insert(reinterpret_cast<quintptr>(child->mhItem), place++);
-    QModelIndexList after;
-    for (const QModelIndex& index : before) {
-        const auto found = places.constFind(index.internalId());
-        after << (found == places.constEnd() ? index : createIndex(*found, 0, index.internalId()));
-    }
-    changePersistentIndexList(before, after);
-    Q_EMIT layoutChanged();
+    children.erase(firstPicked, children.end());
 }
 
 void ConditionModel::updateTypeName(VarTreeCtrlNode& node) const
@@ -237,6 +243,11 @@ void ConditionModel::expand(HTREEITEM item)
     const QModelIndex index = indexOf(item);
     if (index.isValid())
         Q_EMIT expandRequested(index);
+}
+
+void ConditionModel::tellTextsChanged()
+{
+    Q_EMIT textsChanged();
 }
 
 QModelIndex ConditionModel::index(int row, int column, const QModelIndex& parent) const
@@ -271,11 +282,22 @@ QVariant ConditionModel::data(const QModelIndex& index, int role) const
     const VarTreeCtrlNode* node = index.isValid() ? nodeOf(index) : nullptr;
     if (node == nullptr)
         return {};
-    if (role == Qt::DecorationRole && m_images.rows() != nullptr)
-        return m_images.rows()->image(m_items.image(node->mhItem));
+    if (role == Qt::DecorationRole)
+        return picture(m_items.image(node->mhItem));
     if (role == Qt::AccessibleTextRole)
         return spokenText(*node);
     return {};
+}
+
+/// A picture as the view draws it, made once: the list only grows.
+QVariant ConditionModel::picture(int image) const
+{
+    const ImgLst* rows = m_images.rows();
+    if (rows == nullptr || image < 0 || image >= rows->count())
+        return {};
+    while (static_cast<int>(m_pictures.size()) <= image)
+        m_pictures.push_back(QPixmap::fromImage(rows->image(static_cast<int>(m_pictures.size()))));
+    return m_pictures[static_cast<std::size_t>(image)];
 }
 
 CString ConditionModel::spokenText(const VarTreeCtrlNode& node) const

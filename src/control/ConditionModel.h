@@ -7,7 +7,9 @@
 
 #include <QAbstractItemModel>
 
+#include <cstdint>
 #include <functional>
+#include <limits>
 #include <memory>
 #include <vector>
 
@@ -25,8 +27,24 @@ class ConditionModel final : public QAbstractItemModel {
 public:
     using NodePtr = std::unique_ptr<VarTreeCtrlNode>;
 
+    /// While it lives, changes are told to the views together, as one reset at its end.
+    class Bulk {
+    public:
+        explicit Bulk(ConditionModel& model);
+        Bulk(const Bulk&) = delete;
+        Bulk& operator=(const Bulk&) = delete;
+        ~Bulk();
+
+    private:
+        ConditionModel& m_model;
+    };
+
+    /// How many rows a level holds at most: its rows are counted by ints.
+    static constexpr std::size_t kRoomOfLevel = std::numeric_limits<int>::max();
+
     /// strings and images must outlive the model.
-    ConditionModel(const StringSource& strings, const ConditionImages& images);
+    ConditionModel(const StringSource& strings, const ConditionImages& images,
+                   std::size_t roomOfLevel = kRoomOfLevel);
     ~ConditionModel() override;
 
     /// The invisible top; null when there is none.
@@ -52,7 +70,7 @@ public:
     void append(VarTreeCtrlNode& parent, std::vector<NodePtr> nodes);
     /// Deletes a row with its subtree; with TVI_ROOT everything.
     void remove(HTREEITEM item);
-    /// Deletes the children of parent that a test picks, in time linear in the children.
+    /// Deletes the children of parent that a test picks, with their subtrees.
     void removeChildren(VarTreeCtrlNode& parent,
                         const std::function<bool(const VarTreeCtrlNode&)>& picked);
 
@@ -60,6 +78,11 @@ public:
     void updateTypeName(VarTreeCtrlNode& node) const;
     /// Asks the views to open a row; TVI_ROOT is always open.
     void expand(HTREEITEM item);
+    /// Tells the views that texts of nodes were changed in place.
+    void tellTextsChanged();
+    /// Grows with every node that comes or goes: who lets the host in between two steps sees from
+    /// it whether the tree is still the one that the step before saw.
+    [[nodiscard]] std::uint64_t revision() const { return m_revision; }
 
     [[nodiscard]] QModelIndex index(int row, int column,
                                     const QModelIndex& parent = {}) const override;
@@ -71,22 +94,31 @@ public:
 Q_SIGNALS:
     /// A row wants to be open.
     void expandRequested(const QModelIndex& index);
+    /// Rows show other texts than before.
+    void textsChanged();
 
 private:
     [[nodiscard]] VarTreeCtrlNode* nodeOf(const QModelIndex& index) const;
     [[nodiscard]] QModelIndex indexOfNode(const VarTreeCtrlNode& node) const;
     [[nodiscard]] bool holds(const VarTreeCtrlNode& node) const;
+    [[nodiscard]] QVariant picture(int image) const;
     [[nodiscard]] CString spokenText(const VarTreeCtrlNode& node) const;
-    void enter(VarTreeCtrlNode& node, VarTreeCtrlNode& parent, const std::vector<CString>& labels);
+    [[nodiscard]] bool isShown(const VarTreeCtrlNode& node) const;
+    void enter(VarTreeCtrlNode& node, VarTreeCtrlNode& parent, int place,
+               const std::vector<CString>& labels);
+    void enterChildren(VarTreeCtrlNode& node, const std::vector<CString>& labels);
     void leave(VarTreeCtrlNode& node);
     [[nodiscard]] std::vector<CString> typeLabels() const;
-    void moveToEnd(VarTreeCtrlNode& parent, const std::vector<VarTreeCtrlNode*>& order);
 
     const StringSource& m_strings;
     const ConditionImages& m_images;
+    std::size_t m_roomOfLevel;
+    std::uint64_t m_revision = 0;
+    int m_bulks = 0;
     NodePtr m_top;
     // Remembering a row's place is no change that anyone can see.
     mutable ItemTable m_items;
+    mutable std::vector<QVariant> m_pictures;
 };
 
 } // namespace condtree

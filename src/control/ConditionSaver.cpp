@@ -17,6 +17,13 @@ bool keepsItsValue(LONG nodeCode)
     return nodeCode == ObjectType || isChildRefState(nodeCode);
 }
 
+// Whether a row's type is that of its variable; the fixed kinds are texts.
+bool hasVariableType(LONG nodeCode)
+{
+    const bool isFixedKind = nodeCode >= Category && nodeCode <= Group;
+    return !isFixedKind && nodeCode != NodeHistoricState;
+}
+
 bool isUntouchedPlaceholder(const VarTreeCtrlNode& row)
 {
     return row.mlCode == NodePlaceholder && row.mlOperator == -1;
@@ -30,7 +37,7 @@ LONG nextIndex(const std::vector<TransCond>& records)
 } // namespace
 
 ConditionSaver::ConditionSaver(const StringSource& strings, const ControlSettings& settings,
-                               CardVariables& variables, const ConditionModel& model)
+                               CardVariables& variables, ConditionModel& model)
     : m_strings(strings)
     , m_settings(settings)
     , m_variables(variables)
@@ -38,37 +45,72 @@ ConditionSaver::ConditionSaver(const StringSource& strings, const ControlSetting
 {
 }
 
+/// One call of save: where the records go, and how.
+struct ConditionSaver::Walk {
+    std::vector<TransCond>& records;
+    bool altersArguments;
+    ValueTexts texts;
+    bool isOvertaken = false;
+};
+
 void ConditionSaver::save(std::vector<TransCond>& records, VarTreeCtrlNode* node,
                           bool alterArguments)
 {
     VarTreeCtrlNode* level = node == nullptr ? m_model.top() : node;
-    if (level != nullptr)
-        saveLevel(records, *level, alterArguments, ValueTexts(m_strings));
+    if (level == nullptr)
+        return;
+    Walk walk{records, alterArguments, ValueTexts(m_strings)};
+    saveLevel(walk, *level);
+    if (alterArguments)
+        m_model.tellTextsChanged();
 }
 
-void ConditionSaver::saveLevel(std::vector<TransCond>& records, VarTreeCtrlNode& level,
-                               bool alterArguments, const ValueTexts& texts)
+void ConditionSaver::saveLevel(Walk& walk, VarTreeCtrlNode& level)
 {
-    // By index: a message on the way may let the host change the level.
-    for (std::size_t i = 0; i < level.mChildren.size(); ++i) {
-        VarTreeCtrlNode& row = *level.mChildren[i];
-        if (isSkipped(row))
+    for (VarTreeCtrlNode* row : level.mChildren) {
+        if (isSkipped(*row))
             continue;
-        if (isUntouchedPlaceholder(row))
+        if (isUntouchedPlaceholder(*row))
             return;
-        const LONG index = nextIndex(records);
-        if (row.mlCode == NodeOr) {
-            TransCond& group = records.emplace_back();
-            group.lIndex = index;
-            group.lRowKind = RowKindGroup;
-            saveLevel(records, row, alterArguments, texts);
-            continue;
-        }
-        if (alterArguments && !keepsItsValue(row.mlCode))
-            alterArgument(row.mValue, row.mlOperator);
-        records.push_back(makeRecord(row, texts));
-        records.back().lIndex = index;
+        if (row->mlCode == NodeOr)
+            saveGroup(walk, *row);
+        else
+            walk.isOvertaken = !saveCondition(walk, *row);
+        if (walk.isOvertaken)
+            return; // the level itself may be gone
     }
+}
+
+void ConditionSaver::saveGroup(Walk& walk, VarTreeCtrlNode& group)
+{
+    TransCond record;
+    record.lIndex = nextIndex(walk.records);
+    record.lRowKind = RowKindGroup;
+    walk.records.push_back(std::move(record));
+    saveLevel(walk, group);
+}
+
+/// False when the tree was changed meanwhile; the row may be gone then.
+bool ConditionSaver::saveCondition(Walk& walk, VarTreeCtrlNode& row)
+{
+    if (!loadVariables(row))
+        return false;
+    if (walk.altersArguments && !keepsItsValue(row.mlCode))
+        alterArgument(row.mValue, row.mlOperator);
+    TransCond record = makeRecord(row, walk.texts);
+    record.lIndex = nextIndex(walk.records);
+    walk.records.push_back(std::move(record));
+    return true;
+}
+
+/// Makes sure of the variables for a row that needs them. A failure is shown, and the list serves
+/// as it stands; but the message lets the host in.
+bool ConditionSaver::loadVariables(const VarTreeCtrlNode& row)
+{
+    const std::uint64_t revision = m_model.revision();
+    if (hasVariableType(row.mlCode))
+        m_variables.mbInitVars();
+    return m_model.revision() == revision;
 }
 
 bool ConditionSaver::isSkipped(const VarTreeCtrlNode& row) const
@@ -102,12 +144,10 @@ void ConditionSaver::setValue(TransCond& record, VarTreeCtrlNode& row, const Val
     }
 }
 
-LONG ConditionSaver::argTypeOf(const VarTreeCtrlNode& row)
+LONG ConditionSaver::argTypeOf(const VarTreeCtrlNode& row) const
 {
-    const bool isFixedKind = row.mlCode >= Category && row.mlCode <= Group;
-    if (isFixedKind || row.mlCode == NodeHistoricState)
+    if (!hasVariableType(row.mlCode))
         return ArgText;
-    m_variables.mbInitVars(); // a failure is shown, and the list serves as it stands
     const VarDef* variable = m_variables.find(row.mName);
     if (variable == nullptr)
         variable = m_variables.last();

@@ -30,7 +30,7 @@ const ItemTable::Slot* ItemTable::find(HTREEITEM item) const
     return slot.node != nullptr && slot.generation == handle >> 32U ? &slot : nullptr;
 }
 
-HTREEITEM ItemTable::add(VarTreeCtrlNode& node, int image)
+HTREEITEM ItemTable::add(VarTreeCtrlNode& node, int image, int place)
 {
     std::size_t index = m_slots.size();
     if (m_free.empty()) {
@@ -42,7 +42,7 @@ HTREEITEM ItemTable::add(VarTreeCtrlNode& node, int image)
     Slot& slot = m_slots[index];
     slot.node = &node;
     slot.image = image;
-    slot.place = 0;
+    slot.place = place;
     return makeHandle(slot.generation, index);
 }
 

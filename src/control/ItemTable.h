@@ -12,8 +12,9 @@ namespace condtree {
 /// whose row is gone names nothing, also when the slot serves another row.
 class ItemTable {
 public:
-    /// Makes a row for a node. image is its index in the row image list.
-    HTREEITEM add(VarTreeCtrlNode& node, int image);
+    /// Makes a row for a node. image is its index in the row image list, place its place among its
+    /// siblings.
+    HTREEITEM add(VarTreeCtrlNode& node, int image, int place);
     /// Forgets a row; a handle that names none does nothing.
     void remove(HTREEITEM item);
 

@@ -54,20 +54,25 @@ RowDrawing::RowDrawing(const Services& services, const ConditionModel& model,
 {
 }
 
-LRESULT RowDrawing::handle(const NMTVCUSTOMDRAW& draw, const std::optional<RowPlace>& place) const
+LRESULT RowDrawing::handle(const NMTVCUSTOMDRAW& draw, const QTreeView& view) const
 {
-    const LRESULT answer = customDrawAnswer(draw.dwDrawStage);
-    const VarTreeCtrlNode* node = m_model.node(draw.dwItemSpec);
-    if (draw.dwDrawStage != CDDS_ITEMPOSTPAINT || draw.hdc == nullptr || node == nullptr)
-        return answer;
+    if (draw.dwDrawStage != CDDS_ITEMPOSTPAINT || draw.hdc == nullptr)
+        return customDrawAnswer(draw.dwDrawStage);
+    if (const VarTreeCtrlNode* node = m_model.node(draw.dwItemSpec)) {
+        const std::optional<RowPlace> place = placeOfRow(view, m_model.indexOf(draw.dwItemSpec));
+        paint(*draw.hdc, *node, place.value_or(RowPlace{draw.rc, draw.rc.left}));
+    }
+    return customDrawAnswer(draw.dwDrawStage);
+}
+
+void RowDrawing::paint(QPainter& painter, const VarTreeCtrlNode& node, const RowPlace& place) const
+{
     const ImgLst noImages{QSize()};
     const ImgLst& images = m_images.operators() == nullptr ? noImages : *m_images.operators();
-    const RowPlace where = place.value_or(RowPlace{draw.rc, draw.rc.left});
-    const RowLayout layout(where.row, where.textLeft, m_columns,
+    const RowLayout layout(place.row, place.textLeft, m_columns,
                            m_services.systemMetric(SM_CXSMICON));
-    const RowContent content = contentOfRow(*node, m_model.top());
-    paintRow(*draw.hdc, describeRow(content, layout, m_services.string), images);
-    return answer;
+    const RowContent content = contentOfRow(node, m_model.top());
+    paintRow(painter, describeRow(content, layout, m_services.string), images);
 }
 
 void RowDrawing::begin(NMTVCUSTOMDRAW draw, const Stage& stage)
@@ -76,14 +81,16 @@ void RowDrawing::begin(NMTVCUSTOMDRAW draw, const Stage& stage)
     m_tellsRows = (stage(draw) & CDRF_NOTIFYITEMDRAW) != 0;
 }
 
-void RowDrawing::drawRow(NMTVCUSTOMDRAW draw, const Stage& stage,
-                         const std::function<void()>& baseRow) const
+bool RowDrawing::beginRow(NMTVCUSTOMDRAW& draw, const Stage& stage) const
 {
     draw.dwDrawStage = CDDS_ITEMPREPAINT;
-    const LRESULT answer = m_tellsRows ? stage(draw) : CDRF_DODEFAULT;
-    baseRow();
+    return m_tellsRows && (stage(draw) & CDRF_NOTIFYPOSTPAINT) != 0;
+}
+
+void RowDrawing::endRow(NMTVCUSTOMDRAW& draw, const Stage& stage, bool isTold)
+{
     draw.dwDrawStage = CDDS_ITEMPOSTPAINT;
-    if ((answer & CDRF_NOTIFYPOSTPAINT) != 0)
+    if (isTold)
         stage(draw);
 }
 

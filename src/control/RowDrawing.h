@@ -31,8 +31,7 @@ struct RowPlace {
 /// What a row shows, from its node.
 [[nodiscard]] RowContent contentOfRow(const VarTreeCtrlNode& node, const VarTreeCtrlNode* top);
 
-/// Draws rows by the stages of custom drawing: the view draws its own row first, and the columns
-/// are drawn over it afterwards.
+/// Draws the columns of rows, as the last stage of drawing asks.
 class RowDrawing {
 public:
     using Stage = std::function<LRESULT(NMTVCUSTOMDRAW&)>;
@@ -41,18 +40,21 @@ public:
     RowDrawing(const Services& services, const ConditionModel& model, const ColumnShares& columns,
                const ConditionImages& images);
 
-    /// Answers a stage, and paints the row's columns when the stage is its last one. place is the
-    /// row's; without one the notification's rectangle is the row, text and all. A row without a
-    /// node, and a notification without a painter, paint nothing.
-    LRESULT handle(const NMTVCUSTOMDRAW& draw, const std::optional<RowPlace>& place) const;
+    /// Answers a stage, and paints the row's columns when the stage is its last one: at its place
+    /// in view, else, where it has none, in the notification's rectangle. A row without a node, and
+    /// a notification without a painter, paint nothing.
+    LRESULT handle(const NMTVCUSTOMDRAW& draw, const QTreeView& view) const;
 
-    /// Begins a repaint of the view; stage answers the notification.
+    /// Begins a repaint; stage answers whether the rows are told.
     void begin(NMTVCUSTOMDRAW draw, const Stage& stage);
-    /// Draws a row: its stages around baseRow, the view's own drawing.
-    void drawRow(NMTVCUSTOMDRAW draw, const Stage& stage,
-                 const std::function<void()>& baseRow) const;
+    /// Tells of a row before the view draws it. Whether its last stage is told too.
+    [[nodiscard]] bool beginRow(NMTVCUSTOMDRAW& draw, const Stage& stage) const;
+    /// Tells of a row's last stage, if isTold.
+    static void endRow(NMTVCUSTOMDRAW& draw, const Stage& stage, bool isTold);
 
 private:
+    void paint(QPainter& painter, const VarTreeCtrlNode& node, const RowPlace& place) const;
+
     const Services& m_services;
     const ConditionModel& m_model;
     const ColumnShares& m_columns;

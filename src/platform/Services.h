@@ -30,7 +30,7 @@ enum : int {
 inline constexpr unsigned MB_OK = 0;
 
 /// Everything that the control asks of the world around it, but for the data-access library.
-/// The control fills a port that is left empty with the real one.
+/// A port that is left empty is the real one. Timers are for the editors, and have no real one yet.
 struct Services {
     /// Shows a modal message over owner and waits for the answer. type 0 is a plain OK box.
     std::function<int(QWidget* owner, const CString& text, unsigned type)> messageBox;

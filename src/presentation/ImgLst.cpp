@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <set>
 #include <span>
+#include <utility>
 
 namespace condtree {
 
@@ -57,9 +58,15 @@ QSize ImgLst::pixelSize(int height) const
 
 void ImgLst::append(const QImage& image)
 {
-    m_images.push_back(m_depth == Depth::Indexed8
-                           ? toIndexed(image)
-                           : image.convertToFormat(QImage::Format_ARGB32_Premultiplied));
+    QImage kept = m_depth == Depth::Indexed8
+                      ? toIndexed(image)
+                      : image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    // A picture of more pixels than the list's size is drawn at that size, as sharp as the screen
+    // allows.
+    const double tooHigh = static_cast<double>(kept.height()) / std::max(m_size.height(), 1);
+    const double tooWide = static_cast<double>(kept.width()) / std::max(m_size.width(), 1);
+    kept.setDevicePixelRatio(std::max({1.0, tooHigh, tooWide}));
+    m_images.push_back(std::move(kept));
 }
 
 void ImgLst::appendStrip(const QImage& strip, COLORREF mask)
@@ -78,14 +85,9 @@ void ImgLst::draw(QPainter& painter, int index, const QPoint& at) const
     if (index < 0 || index >= count())
         return;
     const QImage& picture = m_images[static_cast<std::size_t>(index)];
-    const QSize size = picture.size().boundedTo(m_size);
-    if (size == picture.size()) {
-        painter.drawImage(at, picture);
-        return;
-    }
     const bool wasSmooth = painter.testRenderHint(QPainter::SmoothPixmapTransform);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawImage(QRect(at, size), picture);
+    painter.drawImage(at, picture);
     painter.setRenderHint(QPainter::SmoothPixmapTransform, wasSmooth);
 }
 

@@ -1,12 +1,21 @@
 #include "RowLayout.h"
 
+#include <algorithm>
 #include <cstddef>
+#include <cstdint>
 
 namespace condtree {
 
 namespace {
 /// Between a cell's left edge and its text, and between a picture and the text behind it.
 constexpr int kGap = 3;
+
+/// Far beyond every screen, and near enough for all sums and differences that follow.
+LONG bounded(std::int64_t x)
+{
+    constexpr std::int64_t kFarAway = std::int64_t{1} << 28U;
+    return static_cast<LONG>(std::clamp(x, -kFarAway, kFarAway));
+}
 } // namespace
 
 RowLayout::RowLayout(const RECT& row, LONG textLeft, const ColumnShares& shares, int smallIconWidth)
@@ -28,7 +37,7 @@ PaintedCells RowLayout::paintedCells() const
     std::array<LONG, 4> end{};
     LONG edge = m_row.left;
     for (int column = 0; column < 3; ++column) {
-        edge += m_shares.width(column, width);
+        edge = bounded(std::int64_t{edge} + m_shares.width(column, width));
         end[static_cast<std::size_t>(column)] = edge;
     }
     end[3] = m_row.right;

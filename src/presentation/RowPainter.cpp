@@ -82,16 +82,30 @@ public:
         const QRect rect = toQRect(text.rect);
         if (rect.isEmpty() || text.text.isEmpty())
             return;
-        const QString shown =
-            m_metrics.elidedText(shownText(text.text), Qt::ElideRight, rect.width());
-        const int above = (rect.height() - m_metrics.height()) / 2;
+        const QString shown = fitted(shownText(text.text), rect.width(), text.format);
+        const bool isCentred = (text.format & kTextVerticallyCentred) != 0;
+        const int above = isCentred ? (rect.height() - m_metrics.height()) / 2 : 0;
+        const QPoint at(rect.left(), rect.top() + above + m_metrics.ascent());
+        // A clip costs more than the text, and a text that fits needs none.
+        if (above >= 0 && m_metrics.horizontalAdvance(shown) <= rect.width()) {
+            m_painter.drawText(at, shown);
+            return;
+        }
         m_painter.save();
         m_painter.setClipRect(rect, Qt::IntersectClip);
-        m_painter.drawText(rect.left(), rect.top() + above + m_metrics.ascent(), shown);
+        m_painter.drawText(at, shown);
         m_painter.restore();
     }
 
 private:
+    [[nodiscard]] QString fitted(const QString& text, int width, unsigned format) const
+    {
+        const bool isElided = (format & kTextEndEllipsis) != 0;
+        if (!isElided || m_metrics.horizontalAdvance(text) <= width)
+            return text;
+        return m_metrics.elidedText(text, Qt::ElideRight, width);
+    }
+
     /// Much faster than lines of a pen, and crisp whatever the painter's hints.
     void fillArea(const RECT& rect, COLORREF colour) const
     {

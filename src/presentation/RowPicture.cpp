@@ -6,8 +6,6 @@
 #include <condtree/values/CommandCatalogue.h>
 #include <condtree/values/OperatorCatalogue.h>
 
-#include <cstddef>
-
 namespace condtree {
 
 namespace {
@@ -16,7 +14,6 @@ namespace {
 constexpr LONG kFirstConditionCode = 3;
 /// From here on a row is a condition on a card variable.
 constexpr LONG kFirstVariableCode = 100;
-constexpr std::size_t kPrimitivesOfCondition = 10;
 
 bool isFixedKind(LONG code)
 {
@@ -57,7 +54,6 @@ RowPicture describeRow(const RowContent& content, const RowLayout& layout,
 {
     const PaintedCells cells = layout.paintedCells();
     RowPicture picture;
-    picture.reserve(kPrimitivesOfCondition);
     picture.push_back(FillPrimitive{cells.body, kRowBackground});
     if (content.code < kFirstConditionCode) {
         picture.push_back(textIn(cells.caption, content.name));

@@ -4,10 +4,11 @@
 #include <condtree/platform/WinTypes.h>
 #include <condtree/presentation/RowLayout.h>
 
+#include <QVarLengthArray>
+
 #include <array>
 #include <optional>
 #include <variant>
-#include <vector>
 
 namespace condtree {
 
@@ -60,11 +61,16 @@ struct TextPrimitive {
 
 using RowPrimitive = std::variant<FillPrimitive, FramePrimitive, PolylinePrimitive, LinePrimitive,
                                   ImagePrimitive, TextPrimitive>;
-/// What is drawn for a row, in order.
-using RowPicture = std::vector<RowPrimitive>;
+/// What is drawn for a row, in order; a whole row needs no heap.
+using RowPicture = QVarLengthArray<RowPrimitive, 10>;
 
-/// The format of every text: vertically centred, single line, end ellipsis.
-inline constexpr unsigned kRowTextFormat = 0x8024;
+/// The bits of a text's format.
+inline constexpr unsigned kTextVerticallyCentred = 0x4;
+inline constexpr unsigned kTextSingleLine = 0x20;
+inline constexpr unsigned kTextEndEllipsis = 0x8000;
+/// The format of every text of a row.
+inline constexpr unsigned kRowTextFormat =
+    kTextVerticallyCentred | kTextSingleLine | kTextEndEllipsis;
 
 /// Describes a row as primitives. Changes nothing and draws nothing.
 [[nodiscard]] RowPicture describeRow(const RowContent& content, const RowLayout& layout,

@@ -1,6 +1,7 @@
 #include "CardVariables.h"
 
 #include <condtree/platform/NativeText.h>
+#include <condtree/refdata/OutOfMemory.h>
 #include <condtree/refdata/RecordText.h>
 #include <condtree/values/OperatorRules.h>
 
@@ -27,8 +28,11 @@ bool CardVariables::mbInitVars()
     auto* proc = m_manager.proc<SpUpdateVariableDefinition>(SPID_VARIABLE_DEFINITION);
     if (proc == nullptr)
         return false;
-    const HRESULT result = proc->mhGetVariables(mVariables, false);
-    indexNewVariables();
+    const HRESULT result = raisingOutOfMemory([&] {
+        const HRESULT loaded = proc->mhGetVariables(mVariables, false);
+        indexNewVariables();
+        return loaded;
+    });
     if (FAILED(result)) {
         // A copy: the report shows a message, and this may be gone when it is closed.
         const FailureReport report = m_report;
@@ -47,18 +51,23 @@ void CardVariables::indexNewVariables()
     else
         mVariables.GetNext(position);
     while (position != nullptr) {
-        m_lastIndexed = position;
+        const POSITION indexed = position;
         const VarDef* variable = mVariables.GetNext(position);
-        if (variable == nullptr)
-            continue;
-        m_last = variable;
-        const CString name = recordText(variable->mName).toString();
-        // The first of all equal names answers to every spelling, later ones' own included.
-        const VarDef*& first = m_byFoldedName[localeFoldedKey(name)];
-        if (first == nullptr)
-            first = variable;
-        m_bySpelling.insert(name, first);
+        if (variable != nullptr)
+            addToIndexes(*variable);
+        m_lastIndexed = indexed; // only now: a try that ran out of memory is made good by the next
     }
+}
+
+void CardVariables::addToIndexes(const VarDef& variable)
+{
+    const CString name = recordText(variable.mName).toString();
+    // The first of all equal names answers to every spelling, later ones' own included.
+    const VarDef*& first = m_byFoldedName[localeFoldedKey(name)];
+    if (first == nullptr)
+        first = &variable;
+    m_bySpelling.insert(name, first);
+    m_last = &variable;
 }
 
 const VarDef* CardVariables::find(const CString& name) const

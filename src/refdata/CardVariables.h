@@ -7,7 +7,6 @@
 #include <QHash>
 
 #include <functional>
-#include <vector>
 
 namespace condtree {
 
@@ -25,6 +24,7 @@ public:
 
     /// Loads the variables if they are not loaded. False without a manager or its procedure object,
     /// silently, and after a failure of the library, which is reported; the next call tries again.
+    /// Throws _com_error(E_OUTOFMEMORY) when the memory is exhausted.
     /// A failed try leaves what the library had appended in the list, and the next one appends to
     /// it.
     bool mbInitVars();
@@ -46,6 +46,7 @@ public:
 
 private:
     void indexNewVariables();
+    void addToIndexes(const VarDef& variable);
 
     const ManagerRef& m_manager;
     FailureReport m_report;

@@ -9,7 +9,8 @@
 namespace condtree {
 
 /// What the control was set up with, and the settings that it reads. Missing ones have defaults;
-/// nothing here fails or is reported.
+/// nothing here is reported, and nothing fails but for exhausted memory
+/// (_com_error(E_OUTOFMEMORY)).
 class ControlSettings {
 public:
     ControlSettings(const ManagerRef& manager, RegistryStore& store);

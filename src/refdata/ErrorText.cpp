@@ -1,7 +1,7 @@
 #include "ErrorText.h"
 
+#include <condtree/platform/SystemText.h>
 #include <condtree/refdata/OutOfMemory.h>
-#include <condtree/refdata/SystemText.h>
 
 #include <algorithm>
 #include <array>
@@ -17,7 +17,7 @@ constexpr const char16_t* kErrorSection = u"ErrorCodes";
 struct CatalogueEntry {
     DWORD code;
     LONG id;
-    const char16_t* defaultText; ///< Empty when only a translation has a text.
+    const char16_t* defaultText; ///< Empty where no English text is known.
 };
 
 constexpr const char16_t* kUnspecified = u"An unspecified error occurred.";

@@ -1,6 +1,7 @@
 #include "People.h"
 
 #include <condtree/platform/NativeText.h>
+#include <condtree/refdata/OutOfMemory.h>
 #include <condtree/refdata/RecordText.h>
 
 #include <utility>
@@ -47,10 +48,13 @@ bool People::init()
     auto* proc = m_manager.proc<SpUserMgr>(SPID_USER_MGR);
     if (proc == nullptr)
         return false;
-    setAside();
-    const HRESULT result =
-        m_kind == Kind::Users ? proc->mhGetUsers(m_list, 0, true) : proc->mhGetGroups(m_list);
-    index();
+    const HRESULT result = raisingOutOfMemory([&] {
+        setAside();
+        const HRESULT loaded =
+            m_kind == Kind::Users ? proc->mhGetUsers(m_list, 0, true) : proc->mhGetGroups(m_list);
+        index();
+        return loaded;
+    });
     if (FAILED(result)) {
         // A copy: the report shows a message, and this may be gone when it is closed.
         const FailureReport report = m_report;

@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLockFile>
+#include <QLoggingCategory>
 #include <QSaveFile>
 #include <QStandardPaths>
 
@@ -17,6 +18,8 @@ namespace {
 
 /// How long a write waits for another process to finish its own.
 constexpr int kLockMilliseconds = 2000;
+Q_LOGGING_CATEGORY(lcSettings, "condtree.settings")
+
 /// The right to write values.
 constexpr DWORD kSetValue = 0x2;
 
@@ -26,13 +29,20 @@ CString keyPath(const CString& rootName, const CString& subKey)
     return (QStringList(rootName) + subKey.split(u'\\', Qt::SkipEmptyParts)).join(u'\\');
 }
 
-QString firstConfigFolder()
+/// The machine's file: the first that there is in its configuration folders, else in the first of
+/// them.
+QString machineFile()
 {
+    QStringList files;
     for (const QString& folder : qEnvironmentVariable("XDG_CONFIG_DIRS").split(u':')) {
         if (QDir::isAbsolutePath(folder))
-            return folder;
+            files << folder + QStringLiteral("/condtree/machine.reg");
     }
-    return QStringLiteral("/etc/xdg");
+    if (files.isEmpty())
+        return QStringLiteral("/etc/xdg/condtree/machine.reg");
+    const auto existing = std::find_if(files.cbegin(), files.cend(),
+                                       [](const QString& file) { return QFileInfo::exists(file); });
+    return existing == files.cend() ? files.front() : *existing;
 }
 
 /// The bytes of a regular file, none when it cannot be read.
@@ -55,7 +65,7 @@ RegFilePaths RegFilePaths::standard()
         return {folder + QStringLiteral("/user.reg"), folder + QStringLiteral("/machine.reg")};
     return {QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)
                 + QStringLiteral("/condtree/user.reg"),
-            firstConfigFolder() + QStringLiteral("/condtree/machine.reg")};
+            machineFile()};
 }
 
 RegFileStore::RegFileStore(RegFilePaths paths)
@@ -106,7 +116,7 @@ void RegFileStore::read(File& file)
     }
     file.isWritable = warning.isEmpty();
     if (!warning.isEmpty() && warning != file.reported)
-        qWarning("%s", qUtf8Printable(warning));
+        qCWarning(lcSettings, "%s", qUtf8Printable(warning));
     file.reported = warning;
 }
 

@@ -26,9 +26,7 @@ bool WorkflowStates::mbInitWorkflowStates()
     mStatesInOrder.clear();
     try {
         AutoLst<Lst<SpWorkflowState*>> states;
-        auto* proc = m_manager.proc<SpWorkflow>(SPID_WORKFLOW);
-        if (proc != nullptr)
-            proc->mhGetAllStatesInAllWorkflows(0, states); // a failure counts as no states
+        fetch(states);
         while (!states.IsEmpty()) {
             const std::unique_ptr<SpWorkflowState, RecordDeleter> state(states.RemoveHead());
             if (state != nullptr)
@@ -36,13 +34,23 @@ bool WorkflowStates::mbInitWorkflowStates()
         }
     } catch (const std::bad_alloc&) {
         return false;
-    } catch (const _com_error& error) {
-        if (error.Error() != E_OUTOFMEMORY)
-            throw;
-        return false;
     }
     mbStatesLoaded = true;
     return true;
+}
+
+/// Fills a list with what the library has; a failure of it, however told, counts as no more states.
+void WorkflowStates::fetch(Lst<SpWorkflowState*>& states) const
+{
+    auto* proc = m_manager.proc<SpWorkflow>(SPID_WORKFLOW);
+    if (proc == nullptr)
+        return;
+    try {
+        proc->mhGetAllStatesInAllWorkflows(0, states);
+    } catch (const _com_error& error) {
+        if (error.Error() == E_OUTOFMEMORY)
+            throw std::bad_alloc();
+    }
 }
 
 void WorkflowStates::take(SpWorkflowState& state)

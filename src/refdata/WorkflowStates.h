@@ -35,6 +35,7 @@ public:
     [[nodiscard]] CString nameOf(LONG id);
 
 private:
+    void fetch(Lst<SpWorkflowState*>& states) const;
     void take(SpWorkflowState& state);
 
     const ManagerRef& m_manager;

@@ -27,12 +27,15 @@ constexpr int kImageRemove = 4;
 constexpr int kImageFixedKind = 5;
 constexpr int kImageUser = 6;
 constexpr int kImageGroup = 7;
+// A group offered as a value has the first picture, unlike a condition on a group.
+constexpr int kImageOfGroupChoice = 0;
 
-constexpr std::array<CommandEntry, 15> kCommands{{
+constexpr std::array<CommandEntry, 20> kCommands{{
     {And, searchText(38, u"And"), std::nullopt},
     {Or, searchText(39, u"Or"), kImageOr},
     {Remove, searchText(55, u"Remove"), kImageRemove},
     {Category, workflowText(87, u"Category"), kImageFixedKind},
+    {DocTypeChoice, std::nullopt, std::nullopt},
     {FilePath, workflowText(20, u"FilePath"), kImageFixedKind},
     {ObjectType, workflowText(732, u"Object Type"), kImageFixedKind},
     {Revision, workflowText(21, u"Revision"), kImageFixedKind},
@@ -41,9 +44,13 @@ constexpr std::array<CommandEntry, 15> kCommands{{
     {Group, workflowText(180, u"Group"), kImageGroup},
     {ObjectTypeFile, workflowText(733, u"File"), std::nullopt},
     {ObjectTypeBom, workflowText(734, u"BOM"), std::nullopt},
-    {ObjectTypeItem, {15, kTextKey, u"ItemMgr", u"Item"}, std::nullopt},
+    {ObjectTypeItem, TextRef{15, kTextKey, u"ItemMgr", u"Item"}, std::nullopt},
     {BinaryYes, workflowText(58, u"Yes"), std::nullopt},
     {BinaryNo, workflowText(59, u"No"), std::nullopt},
+    {StateChoice, std::nullopt, std::nullopt},
+    {VariableBase, std::nullopt, kImageVariable},
+    {UserChoice, std::nullopt, std::nullopt},
+    {GroupChoice, std::nullopt, kImageOfGroupChoice},
 }};
 
 static_assert(std::ranges::is_sorted(kCommands, {}, &CommandEntry::command));
@@ -106,7 +113,7 @@ const TextRef* typeLabel(LONG nodeCode)
 {
     if (nodeCode == NodePlaceholder)
         return &kPlaceholder;
-    return nodeCode == NodeAnd || nodeCode == NodeOr ? &findCommand(nodeCode)->text : nullptr;
+    return nodeCode == NodeAnd || nodeCode == NodeOr ? &*findCommand(nodeCode)->text : nullptr;
 }
 
 int rowImageIndex(LONG nodeCode)

@@ -8,18 +8,19 @@
 
 namespace condtree {
 
-/// A command or a fixed value that the lists offer under a text of its own.
+/// A command, a fixed value or a choice that the lists offer.
 struct CommandEntry {
     ComboCmd command;
-    TextRef text;
+    /// None where the text is the name of what is offered: a type, a state, a variable, a person.
+    std::optional<TextRef> text;
     /// Its picture's index in the row image list; none where the list shows no picture.
     std::optional<int> image;
 };
 
-/// The commands and fixed values with a text, in ascending order of their numbers.
+/// The commands, fixed values and choices, in ascending order of their numbers.
 [[nodiscard]] std::span<const CommandEntry> commandCatalogue();
 
-/// The entry of a number; null when it has no text of its own.
+/// The entry of a number; null when it is none of them.
 [[nodiscard]] const CommandEntry* findCommand(LONG command);
 
 /// "<Click here to add a condition>".

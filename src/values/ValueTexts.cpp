@@ -16,7 +16,7 @@ constexpr LONG kStoredItem = 4;
 
 CString textOf(ComboCmd command, const StringSource& strings)
 {
-    return findCommand(command)->text.from(strings);
+    return findCommand(command)->text->from(strings);
 }
 
 } // namespace

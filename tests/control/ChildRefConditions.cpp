@@ -69,13 +69,54 @@ TEST_F(ChildRefConditions, WithoutATreeThereIsNothingToRemove)
     EXPECT_EQ(control->mpoGetNode(TVI_ROOT), nullptr);
 }
 
-TEST_F(ChildRefConditions, OpenGroupsStayOpen)
+TEST_F(ChildRefConditions, OpenGroupsStayOpenAndTheCurrentRowStaysCurrent)
 {
-    loaded({record(3, 7, "", "12", 1, 100), groupRecord(), record(3, 7, "", "13", 1, 100)});
-    control->expand(control->model()->index(1, 0));
+    loaded({record(3, 7, "", "12", 1, 100), groupRecord(), record(4, 7, "", "12", 1, 100),
+            record(4, 1, "", "p", 1, 100), groupRecord(), record(4, 7, "", "12", 1, 100),
+            groupRecord(), record(3, 7, "", "13", 1, 100)});
+    const QAbstractItemModel& model = *control->model();
+    control->expand(model.index(1, 0));
+    control->expand(model.index(2, 0));
+    control->setCurrentIndex(model.index(1, 0, model.index(1, 0)));
+    const HTREEITEM current = topRow(1).mChildren[1]->mhItem;
     control->mvRemoveChildRefConditions();
-    EXPECT_EQ(rows(), "1 Or\n  " + kEnd + kEnd);
-    EXPECT_TRUE(control->isExpanded(control->model()->index(0, 0)));
+    EXPECT_EQ(rows(), "1 Or\n  5 FilePath | p op=100 arg=1\n  " + kEnd + "1 Or\n  " + kEnd
+                          + "1 Or\n  " + kEnd + kEnd);
+    EXPECT_TRUE(control->isExpanded(model.index(0, 0)));
+    EXPECT_TRUE(control->isExpanded(model.index(1, 0)));
+    EXPECT_FALSE(control->isExpanded(model.index(2, 0)));
+    EXPECT_EQ(control->currentIndex(), model.index(0, 0, model.index(0, 0)));
+    EXPECT_EQ(control->mpoGetNode(current), topRow(0).mChildren[0]);
+}
+
+TEST_F(ChildRefConditions, AGroupThatBecomesEmptyStays)
+{
+    control->mhAddNode(nullptr, new VarTreeCtrlNode(NodeAnd), false);
+    auto* group = new VarTreeCtrlNode(NodeOr);
+    control->mhAddNode(control->mpoGetNode(TVI_ROOT), group, false);
+    control->mhAddNode(group, new VarTreeCtrlNode(ChildRefState), false);
+    control->mhAddNode(group, new VarTreeCtrlNode(NodeHistoricState), false);
+    control->mvRemoveChildRefConditions();
+    EXPECT_EQ(rows(), "1 Or\n");
+}
+
+TEST_F(ChildRefConditions, ManyGroupsAreOneChangeForTheView)
+{
+    std::vector<TransCond> records;
+    for (int i = 0; i < 300; ++i) {
+        records.push_back(groupRecord());
+        records.push_back(record(4, 7, "", "12", 1, 100));
+    }
+    loaded(records);
+    control->expandAll();
+    int changes = 0;
+    const QAbstractItemModel* model = control->model();
+    QObject::connect(model, &QAbstractItemModel::modelReset, [&] { ++changes; });
+    QObject::connect(model, &QAbstractItemModel::rowsRemoved, [&] { ++changes; });
+    QObject::connect(model, &QAbstractItemModel::layoutChanged, [&] { ++changes; });
+    control->mvRemoveChildRefConditions();
+    EXPECT_EQ(changes, 1);
+    EXPECT_FALSE(control->mbHaveChildRefConditions());
 }
 
 } // namespace

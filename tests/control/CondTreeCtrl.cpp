@@ -1,8 +1,7 @@
 #include "ControlFixture.h"
 
-#include <condtree/control/BlankIcons.h>
+#include <condtree/control/CondTreeParts.h>
 #include <condtree/presentation/CDPIHelper.h>
-#include <condtree/presentation/SystemMetrics.h>
 #include <condtree/refdata/Registry.h>
 
 #include <QApplication>
@@ -10,6 +9,7 @@
 #include <QPainter>
 
 #include <array>
+#include <functional>
 
 namespace condtree::test {
 namespace {
@@ -88,9 +88,14 @@ TEST_F(CondTreeCtrlTest, TheDestructorReleasesTheManagerAndFreesTheTree)
     control->mvInitialize(own, 120, KiroVaultType{}, TreeType{});
     own->Release();
     loaded({groupRecord(), record(4, 8, "", "7", 1, 100)});
+    // A text that only a node shares with the test tells when the node is gone.
+    CString witness = QStringLiteral("witness") + QString::number(7);
+    topRow(0).mChildren[0]->mExtra = witness;
     EXPECT_FALSE(destroyed);
+    EXPECT_FALSE(witness.isDetached());
     control.reset();
     EXPECT_TRUE(destroyed);
+    EXPECT_TRUE(witness.isDetached());
 }
 
 TEST_F(CondTreeCtrlTest, InitializeReadsTheSettingsAndLoadsNoReferenceData)
@@ -99,6 +104,7 @@ TEST_F(CondTreeCtrlTest, InitializeReadsTheSettingsAndLoadsNoReferenceData)
     library->userId = 8;
     initialize();
     EXPECT_EQ(library->askedUserName, QStringLiteral("jones"));
+    EXPECT_EQ(library->getUserSettings.calls, 1);
     EXPECT_EQ(library->askedUserId, 8);
     EXPECT_EQ(library->getVariables.calls + library->getUsers.calls + library->getGroups.calls
                   + library->getStates.calls,
@@ -112,13 +118,105 @@ TEST_F(CondTreeCtrlTest, InitializeMakesTheResolutionHelper)
     EXPECT_NE(CDPIHelper::pInstance, nullptr);
 }
 
+// The pictures are requested in the order of their indices, so a row's colour tells its index.
 TEST_F(CondTreeCtrlTest, RowsCarryThePictureOfTheirKind)
 {
     initialize();
-    loaded({record(3, 2, "Author", "a", 1, 100)});
-    const QImage picture = control->model()->index(0, 0).data(Qt::DecorationRole).value<QImage>();
-    EXPECT_EQ(picture.size(), QSize(realSystemMetric(SM_CXSMICON), realSystemMetric(SM_CYSMICON)));
-    EXPECT_EQ(control->iconSize(), picture.size());
+    control->mhAddNode(nullptr, newNode(NodeAnd), false);
+    const std::array<std::pair<LONG, int>, 14> kRows{{{-1, 0},
+                                                      {0, 1},
+                                                      {1, 2},
+                                                      {2, 3},
+                                                      {3, 5},
+                                                      {4, 5},
+                                                      {5, 5},
+                                                      {6, 5},
+                                                      {7, 5},
+                                                      {8, 5},
+                                                      {9, 6},
+                                                      {10, 7},
+                                                      {11, 3},
+                                                      {1000, 3}}};
+    for (const auto& [code, image] : kRows) {
+        control->mhAddNode(control->mpoGetNode(TVI_ROOT), newNode(code), true);
+        const auto picture = control->model()->index(0, 0).data(Qt::DecorationRole).value<QImage>();
+        ASSERT_EQ(picture.size(), iconSize);
+        EXPECT_EQ(picture.pixelColor(10, 12), ColouredIcons::colour(image)) << code;
+    }
+}
+
+TEST_F(CondTreeCtrlTest, PicturesAreAskedForInTheirOrderAtTheSizeOfSmallIconsAndAgainEachTime)
+{
+    const std::vector<QString> names{
+        QStringLiteral("PNG_NEW_FILE"),  QStringLiteral("PNG_AND"),
+        QStringLiteral("PNG_OR"),        QStringLiteral("PNG_ALL_CARD"),
+        QStringLiteral("PNG_DELETE"),    QStringLiteral("PNG_CATEGORIES"),
+        QStringLiteral("PNG_USER"),      QStringLiteral("PNG_GROUPS"),
+        QStringLiteral("PNG_BLUE_OPS"),  QStringLiteral("PNG_RED_OPS"),
+        QStringLiteral("PNG_GREEN_OPS"), QStringLiteral("PNG_YELLOW_OPS")};
+    initialize();
+    EXPECT_EQ(icons->requests, names);
+    EXPECT_EQ(icons->uses, std::vector<int>(12, 3));
+    EXPECT_EQ(control->iconSize(), iconSize);
+    iconSize = QSize(40, 48); // the lists were made for the first size, and keep it
+    initialize();
+    EXPECT_EQ(icons->requests.size(), 24U);
+    EXPECT_EQ(control->iconSize(), QSize(20, 24));
+}
+
+TEST_F(CondTreeCtrlTest, RowPicturesFollowTheDepthOfTheScreen)
+{
+    for (const auto& [bits, depth] : {std::pair{16, 8}, {32, 32}}) {
+        bitsPerPixel = bits;
+        CondTreeParts parts(nullptr, services());
+        parts.appendImages();
+        EXPECT_EQ(parts.images.rows()->image(0).depth(), depth) << bits;
+    }
+}
+
+TEST_F(CondTreeCtrlTest, MissingPicturesAreNoMessageAndTheRowsAreThere)
+{
+    icons->result = IconResult::NoLibrary;
+    initialize();
+    EXPECT_EQ(loaded({record(3, 2, "Author", "a", 1, 100)}),
+              "1000 Author | a op=100 arg=1\n" + kEnd);
+    EXPECT_TRUE(control->model()->index(0, 0).data(Qt::DecorationRole).value<QImage>().isNull());
+    EXPECT_TRUE(messages.empty());
+}
+
+TEST_F(CondTreeCtrlTest, TheSetUpKeepsWhatItIsGiven)
+{
+    CondTreeParts parts(nullptr, services());
+    EXPECT_EQ(parts.settings.dateStyle, 120);
+    EXPECT_EQ(parts.settings.transitionType, 0);
+    parts.setUp(nullptr, 103, static_cast<KiroVaultType>(5), static_cast<TreeType>(6));
+    EXPECT_EQ(parts.settings.dateStyle, 103);
+    EXPECT_EQ(parts.settings.vaultType, 5);
+    EXPECT_EQ(parts.settings.treeType, 6);
+}
+
+TEST_F(CondTreeCtrlTest, AnyLookUpMayShowAMessageDuringWhichTheControlIsDeleted)
+{
+    const std::vector<std::function<void()>> lookUps{
+        [this] { control->mbInitVars(); },
+        [this] { control->mbInitUsers(); },
+        [this] { control->mbInitGroups(); },
+        [this] { static_cast<void>(control->meGetDefaultOp(QStringLiteral("Due"))); },
+        [this] { static_cast<void>(control->meGetArgumentType(QStringLiteral("Due"))); },
+        [this] { control->moGetNameForUserId(7); },
+        [this] { control->moGetNameForGroupId(3); },
+    };
+    duringMessage = [this] { control.reset(); };
+    for (const auto& lookUp : lookUps) {
+        control = std::make_unique<OpenCtrl>(nullptr, services());
+        initialize();
+        for (FakeLibrary::Operation* operation :
+             {&library->getVariables, &library->getUsers, &library->getGroups})
+            operation->results = {E_FAIL};
+        lookUp();
+        EXPECT_EQ(control, nullptr);
+    }
+    EXPECT_EQ(messages.size(), lookUps.size());
 }
 
 TEST_F(CondTreeCtrlTest, PortsThatAreLeftEmptyAreTheRealOnes)

@@ -314,8 +314,8 @@ TEST_F(ConditionLoader, WithAGroupGivenTheRowsStillGoToTheTopAndThePlaceholderTo
 {
     loaded({groupRecord()});
     control->mvLoad({record(3, 2, "Author", "a", 1, 100), groupRecord()}, &topRow(0));
-    EXPECT_EQ(rows(), "1 Or\n  " + kEnd + "  " + kEnd + kEnd
-                          + "1000 Author | a op=100 arg=1\n1 Or\n" + kEnd.substr(kEnd.size()));
+    EXPECT_EQ(rows(),
+              "1 Or\n  " + kEnd + "  " + kEnd + kEnd + "1000 Author | a op=100 arg=1\n1 Or\n");
     const QModelIndex group = control->model()->index(0, 0);
     EXPECT_TRUE(control->isExpanded(group));
 }
@@ -325,6 +325,7 @@ TEST_F(ConditionLoader, WithANodeGivenAndNoTopTheTopIsMadeFirst)
     VarTreeCtrlNode outside(NodeOr);
     control->mvLoad({record(3, 2, "Author", "a", 1, 100)}, &outside);
     EXPECT_EQ(toText(*control), "0 And\n  1000 Author | a op=100 arg=1\n");
+    EXPECT_EQ(rowsBelow(outside), kEnd);
 }
 
 TEST_F(ConditionLoader, GroupsAreClosedAfterLoading)
@@ -422,12 +423,89 @@ TEST_F(ConditionLoader, TheModelKeepsItsPromisesThroughLoads)
     EXPECT_EQ(rows(), kEnd);
 }
 
-TEST_F(ConditionLoader, WhatTheHostDoesToTheTreeDuringAMessageHolds)
+TEST_F(ConditionLoader, EveryGroupBelowTheGivenNodeIsClosedAgain)
+{
+    loaded({groupRecord()});
+    control->mhAddNode(&topRow(0), new VarTreeCtrlNode(NodeOr), true);
+    control->mvLoad({}, &topRow(0));
+    EXPECT_EQ(rows(), "1 Or\n  1 Or\n    " + kEnd + "  " + kEnd + "  " + kEnd + kEnd);
+}
+
+TEST_F(ConditionLoader, AddingToTheTreeKeepsOpenRowsOpen)
+{
+    loaded({groupRecord(), groupRecord()});
+    control->expand(control->model()->index(1, 0));
+    control->setCurrentIndex(control->model()->index(1, 0));
+    control->mvLoad({groupRecord()}, control->mpoGetNode(TVI_ROOT));
+    EXPECT_FALSE(control->isExpanded(control->model()->index(0, 0)));
+    EXPECT_TRUE(control->isExpanded(control->model()->index(1, 0)));
+    EXPECT_EQ(control->currentIndex(), control->model()->index(1, 0));
+}
+
+TEST_F(ConditionLoader, AnyVaultTypeButOneIsAFullVault)
+{
+    for (const LONG vault : {0, 2, -1}) {
+        initialize(static_cast<KiroVaultType>(vault));
+        std::vector<TransCond> records;
+        for (LONG type = 1; type <= 10; ++type)
+            records.push_back(record(3, type, "Author", "12", 1, 100));
+        control->mvLoad(records);
+        EXPECT_EQ(control->mpoGetNode(TVI_ROOT)->mChildren.size(), 11U) << vault;
+        EXPECT_EQ(savedRecords().size(), 10U) << vault;
+    }
+}
+
+TEST_F(ConditionLoader, TheTreeTypeChangesNothingThatIsLoadedOrSaved)
+{
+    std::vector<TransCond> records;
+    for (LONG type = 1; type <= 10; ++type)
+        records.push_back(record(3, type, "Author", "12", 1, 100));
+    std::vector<std::string> results;
+    for (const LONG type : {0, 1, 7}) {
+        initialize(KiroVaultType{}, static_cast<TreeType>(type));
+        const std::string shown = loaded(records);
+        results.push_back(shown + saved());
+    }
+    EXPECT_EQ(results[0], results[1]);
+    EXPECT_EQ(results[0], results[2]);
+}
+
+TEST_F(ConditionLoader, MessagesArePlainAndStandOverTheControl)
 {
     library->getUsers.results = {E_FAIL};
-    library->getUsers.during = [this] { control->mvDeleteNode(TVI_ROOT); };
-    control->mvLoad({record(3, 8, "", "7", 1, 100)});
+    loaded({record(3, 8, "", "7", 1, 100)});
+    EXPECT_EQ(messageOwners, std::vector<QWidget*>{control.get()});
+    EXPECT_EQ(messageTypes, std::vector<unsigned>{0});
+}
+
+// What the host does while a message is open.
+
+TEST_F(ConditionLoader, ATreeThatTheHostDeletesDuringAMessageStaysDeleted)
+{
+    library->getUsers.results = {E_FAIL, E_FAIL};
+    duringMessage = [this] { control->mvDeleteNode(TVI_ROOT); };
+    control->mvLoad({record(3, 8, "", "7", 1, 100), record(3, 8, "", "7", 1, 100)});
     EXPECT_EQ(control->mpoGetNode(TVI_ROOT), nullptr);
+    EXPECT_EQ(messages.size(), 1U);
+}
+
+TEST_F(ConditionLoader, ALoadDuringAMessageOvertakesTheOneThatShowsIt)
+{
+    library->getUsers.results = {E_FAIL};
+    duringMessage = [this] { control->mvLoad({groupRecord(), record(3, 1, "", "p", 1, 100)}); };
+    control->mvLoad({record(3, 2, "Author", "a", 1, 100), record(3, 8, "", "7", 1, 100)});
+    EXPECT_EQ(rows(), "1 Or\n  " + kEnd + "5 FilePath | p op=100 arg=1\n" + kEnd);
+}
+
+TEST_F(ConditionLoader, TheControlMayBeDeletedDuringAMessage)
+{
+    library->getUsers.results = {E_FAIL, E_FAIL, E_FAIL};
+    duringMessage = [this] { control.reset(); };
+    const std::vector<TransCond> records(3, record(3, 8, "", "7", 1, 100));
+    control->mvLoad(records);
+    EXPECT_EQ(control, nullptr);
+    EXPECT_EQ(messages.size(), 1U);
+    EXPECT_EQ(library->references(), 1);
 }
 
 } // namespace

@@ -6,8 +6,8 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractItemModelTester>
-#include <QPersistentModelIndex>
 
+#include <functional>
 #include <stdexcept>
 
 namespace condtree {
@@ -247,28 +247,100 @@ TEST_F(ConditionModelTest, NodesAppendedTogetherStandInTheirOrder)
     EXPECT_EQ(m_model.rowCount(), 3);
 }
 
-TEST_F(ConditionModelTest, RemovingPickedChildrenKeepsTheOthersAndWhatPointsAtThem)
+TEST_F(ConditionModelTest, RemovingPickedChildrenKeepsTheOthersInTheirOrder)
 {
     for (const char* name : {"a", "x", "b", "x", "c", "x"})
         add(name);
-    const QPersistentModelIndex c = m_model.index(4, 0);
-    const QPersistentModelIndex x = m_model.index(3, 0);
+    const HTREEITEM c = m_model.top()->mChildren[4]->mhItem;
+    const HTREEITEM x = m_model.top()->mChildren[3]->mhItem;
     m_model.removeChildren(*m_model.top(), [](const VarTreeCtrlNode& node) {
         return node.mName == QStringLiteral("x");
     });
     EXPECT_EQ(text(), "1000 a\n1000 b\n1000 c\n");
-    EXPECT_EQ(c.row(), 2);
-    EXPECT_FALSE(x.isValid());
+    EXPECT_EQ(m_model.indexOf(c).row(), 2);
+    EXPECT_EQ(m_model.node(x), nullptr);
 }
 
 TEST_F(ConditionModelTest, AFullLevelRefusesAnotherNode)
 {
-    try {
-        requireRoomInList(5, 5);
-        FAIL() << "no exception";
-    } catch (const std::length_error& error) {
-        EXPECT_STREQ(error.what(), "list too long");
+    ConditionModel small(m_strings, m_images, 2);
+    small.setTop(row("", NodeAnd));
+    small.add(*small.top(), row("a"), false);
+    const auto expectRefusal = [&](const std::function<void()>& addition) {
+        try {
+            addition();
+            FAIL() << "no exception";
+        } catch (const std::length_error& error) {
+            EXPECT_STREQ(error.what(), "list too long");
+        }
+    };
+    expectRefusal([&] {
+        std::vector<NodePtr> two;
+        two.push_back(row("b"));
+        two.push_back(row("c"));
+        small.append(*small.top(), std::move(two));
+    });
+    small.add(*small.top(), row("b"), false);
+    expectRefusal([&] { small.add(*small.top(), row("c"), true); });
+    EXPECT_EQ(rowsBelow(*small.top()), "1000 a\n1000 b\n");
+}
+
+TEST_F(ConditionModelTest, ANodeOfTheTreeCannotBecomeItsTop)
+{
+    VarTreeCtrlNode& group = add("", NodeOr);
+    VarTreeCtrlNode* top = m_model.top();
+    EXPECT_EQ(m_model.attach(nullptr, &group, false), group.mhItem);
+    EXPECT_EQ(m_model.top(), top);
+}
+
+TEST_F(ConditionModelTest, ABulkOfChangesIsOneReset)
+{
+    int resets = 0;
+    int insertions = 0;
+    QObject::connect(&m_model, &ConditionModel::modelReset, [&] { ++resets; });
+    QObject::connect(&m_model, &ConditionModel::rowsInserted, [&] { ++insertions; });
+    {
+        const ConditionModel::Bulk outer(m_model);
+        const ConditionModel::Bulk inner(m_model);
+        VarTreeCtrlNode& group = add("", NodeOr);
+        addTo(group, "inner");
+        m_model.remove(add("gone").mhItem);
     }
+    EXPECT_EQ(resets, 1);
+    EXPECT_EQ(insertions, 0);
+    EXPECT_EQ(text(), "1 39/TS/Search/Or\n  1000 inner\n");
+    const VarTreeCtrlNode& inner = *m_model.top()->mChildren[0]->mChildren[0];
+    EXPECT_EQ(m_model.indexOf(inner.mhItem).row(), 0);
+}
+
+TEST_F(ConditionModelTest, TheRevisionTellsOfEveryNodeThatComesOrGoes)
+{
+    std::uint64_t last = m_model.revision();
+    const auto expectChange = [&](const char* what) {
+        EXPECT_NE(m_model.revision(), last) << what;
+        last = m_model.revision();
+    };
+    const HTREEITEM item = add("a").mhItem;
+    expectChange("add");
+    m_model.remove(item);
+    expectChange("remove");
+    std::vector<NodePtr> rows;
+    rows.push_back(row("b"));
+    m_model.append(*m_model.top(), std::move(rows));
+    expectChange("append");
+    m_model.removeChildren(*m_model.top(), [](const VarTreeCtrlNode&) { return true; });
+    expectChange("removeChildren");
+    m_model.setTop(nullptr);
+    expectChange("setTop");
+    EXPECT_EQ(m_model.revision(), last);
+}
+
+TEST_F(ConditionModelTest, ChangedTextsAreTold)
+{
+    int told = 0;
+    QObject::connect(&m_model, &ConditionModel::textsChanged, [&] { ++told; });
+    m_model.tellTextsChanged();
+    EXPECT_EQ(told, 1);
 }
 
 TEST_F(ConditionModelTest, ExpandingAsksTheViewsButNotForTheRoot)

@@ -1,6 +1,7 @@
 #include "ControlFixture.h"
 
 #include <array>
+#include <functional>
 
 namespace condtree::test {
 namespace {
@@ -66,11 +67,11 @@ TEST_F(ConditionSaver, SavingOnlyAppendsAndTheIndexCountsWhatIsThere)
     records[1].lIndex = 77;
     control->mvSave(records);
     control->mvSave(records);
-    ASSERT_EQ(records.size(), 5U);
-    EXPECT_EQ(records[1].oName.str(), QStringLiteral("host's"));
-    EXPECT_EQ(records[1].lIndex, 77);
-    EXPECT_EQ(records[3].lIndex, 3);
-    EXPECT_EQ(records[4].lIndex, 4);
+    EXPECT_EQ(test::toText(records), "0: kind 0 type 0 '' '' '' arg 0 op 0\n"
+                                     "77: kind 0 type 0 'host's' '' '' arg 0 op 0\n"
+                                     "0: kind 0 type 0 '' '' '' arg 0 op 0\n"
+                                     "3: kind 3 type 2 'Author' '' 'a' arg 1 op 100\n"
+                                     "4: kind 3 type 2 'Author' '' 'a' arg 1 op 100\n");
 }
 
 TEST_F(ConditionSaver, TheHostsTagIsZero)
@@ -311,8 +312,9 @@ TEST_F(ConditionSaver, AlteringArgumentsPutsTheOperatorIntoTheValueAndTheNode)
 TEST_F(ConditionSaver, AlteringArgumentsLeavesObjectTypesAndChildReferenceStatesAlone)
 {
     loaded({record(3, 5, "", "3", 1, 101), record(3, 7, "", "12", 1, 101),
-            record(3, 10, "", "x", 1, 108)});
+            record(3, 10, "", "x", 1, 108), record(3, 10, "", "13", 1, 101)});
     EXPECT_EQ(savedRecords(true)[0].oValue.str(), QStringLiteral("3"));
+    EXPECT_EQ(topRow(3).mValue, QStringLiteral("Release.Done"));
     EXPECT_EQ(topRow(0).mValue, QStringLiteral("BOM"));
     EXPECT_EQ(topRow(1).mValue, QStringLiteral("Release.Open"));
     EXPECT_EQ(savedRecords(true)[2].oValue.str(), QStringLiteral("x"));
@@ -348,7 +350,9 @@ TEST_F(ConditionSaver, AFailureToLoadTheVariablesIsShownARowAndSavingGoesOn)
                        "1: kind 3 type 1 'FilePath' '' 'p' arg 1 op 100\n"
                        "2: kind 3 type 2 'Due' '' 'b' arg 0 op 100\n"
                        "3: kind 3 type 2 'Due' '' 'c' arg 5 op 100\n");
-    EXPECT_EQ(messages.size(), 2U);
+    EXPECT_EQ(messages, std::vector<QString>(2, QStringLiteral("An unspecified error occurred.")));
+    EXPECT_EQ(messageOwners, std::vector<QWidget*>(2, control.get()));
+    EXPECT_EQ(messageTypes, std::vector<unsigned>(2, 0));
     EXPECT_EQ(library->getVariables.calls, 3);
     EXPECT_EQ(savedRecords().size(), 4U);
     EXPECT_EQ(library->getVariables.calls, 3);
@@ -374,6 +378,49 @@ TEST_F(ConditionSaver, WithoutAManagerOrItsProcedureTheListStaysEmptyWithoutAMes
     control->mvInitialize(nullptr, 120, KiroVaultType{}, TreeType{});
     EXPECT_EQ(savedRecords()[0].lArgType, 0);
     EXPECT_TRUE(messages.empty());
+}
+
+// What the host does while a message is open: the save ends where it is.
+
+TEST_F(ConditionSaver, ATreeThatTheHostChangesDuringAMessageEndsTheSave)
+{
+    const std::vector<std::function<void()>> hosts{
+        [this] { control->mvDeleteNode(TVI_ROOT); },
+        [this] { control->mvDeleteNode(topRow(1).mhItem); },
+        [this] { control->mvLoad({record(3, 1, "", "new", 1, 100)}); },
+    };
+    for (const auto& host : hosts) {
+        loaded({record(3, 1, "", "first", 1, 100), groupRecord(),
+                record(4, 2, "Author", "a", 1, 100), record(3, 1, "", "last", 1, 100)});
+        messages.clear();
+        library->getVariables.results = {E_FAIL, E_FAIL};
+        duringMessage = host;
+        EXPECT_EQ(saved(), "0: kind 3 type 1 'FilePath' '' 'first' arg 1 op 100\n"
+                           "1: kind 2 type 0 '' '' '' arg 0 op 0\n");
+        EXPECT_EQ(messages.size(), 1U);
+    }
+}
+
+TEST_F(ConditionSaver, ASaveDuringAMessageDisturbsNothing)
+{
+    loaded({record(3, 2, "Author", "a", 1, 100)});
+    library->getVariables.results = {E_FAIL};
+    std::string inner;
+    duringMessage = [&] { inner = saved(); };
+    EXPECT_EQ(saved(), "0: kind 3 type 2 'Author' '' 'a' arg 1 op 100\n");
+    EXPECT_EQ(inner, "0: kind 3 type 2 'Author' '' 'a' arg 1 op 100\n");
+}
+
+TEST_F(ConditionSaver, TheControlMayBeDeletedDuringAMessage)
+{
+    loaded({record(3, 2, "Author", "a", 1, 100), record(3, 2, "Author", "b", 1, 100)});
+    library->getVariables.results = {E_FAIL, E_FAIL};
+    duringMessage = [this] { control.reset(); };
+    std::vector<TransCond> records;
+    control->mvSave(records, nullptr, true);
+    EXPECT_EQ(control, nullptr);
+    EXPECT_TRUE(records.empty());
+    EXPECT_EQ(messages.size(), 1U);
 }
 
 TEST_F(ConditionSaver, SavingEmitsNoChange)

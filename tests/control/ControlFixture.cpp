@@ -1,10 +1,38 @@
 #include "ControlFixture.h"
 
-#include <condtree/control/BlankIcons.h>
 #include <condtree/presentation/SystemMetrics.h>
 #include <condtree/refdata/RegFileStore.h>
 
 namespace condtree::test {
+
+QColor ColouredIcons::colour(int n)
+{
+    return {20 * n + 10, 255 - 20 * n, 40};
+}
+
+IconResult ColouredIcons::answer(const CString& name, int use, int images, IconPixels& pixels)
+{
+    const QColor plain = colour(static_cast<int>(requests.size()) % 12);
+    requests.push_back(name);
+    uses.push_back(use);
+    pixels.width = 20 * images;
+    pixels.height = 24;
+    for (int pixel = 0; pixel < pixels.width * pixels.height; ++pixel) {
+        for (const int channel : {plain.blue(), plain.green(), plain.red(), 255})
+            pixels.bytes.push_back(static_cast<std::uint8_t>(channel));
+    }
+    return result;
+}
+
+IconResult ColouredIcons::loadIcon(const CString& name, int use, IconPixels& icon)
+{
+    return answer(name, use, 1, icon);
+}
+
+IconResult ColouredIcons::loadImage(const CString& name, int use, IconPixels& strip)
+{
+    return answer(name, use, 9, strip);
+}
 
 ControlFixture::ControlFixture()
 {
@@ -23,21 +51,29 @@ ControlFixture::ControlFixture()
 Services ControlFixture::services()
 {
     Services ports;
-    ports.messageBox = [this](QWidget*, const CString& text, unsigned) {
+    ports.messageBox = [this](QWidget* owner, const CString& text, unsigned type) {
         messages.push_back(text);
+        messageOwners.push_back(owner);
+        messageTypes.push_back(type);
+        if (duringMessage)
+            duringMessage();
         return 0;
     };
     ports.string = [this](LONG id, const char16_t*, const char16_t*, const char16_t* text) {
         const auto found = translations.find(id);
         return found == translations.end() ? QString::fromUtf16(text) : found->second;
     };
-    ports.systemMetric = [](int metric) { return realSystemMetric(metric); };
+    ports.systemMetric = [this](int metric) {
+        return metric == SM_CXSMICON   ? iconSize.width()
+               : metric == SM_CYSMICON ? iconSize.height()
+                                       : realSystemMetric(metric);
+    };
     ports.bitsPerPixel = [this] { return bitsPerPixel; };
     registry = std::make_shared<RegFileStore>(
         RegFilePaths{folder.filePath(QStringLiteral("user.reg")),
                      folder.filePath(QStringLiteral("machine.reg"))});
     ports.registry = registry;
-    ports.icons = std::make_shared<BlankIcons>(realSystemMetric);
+    ports.icons = icons;
     return ports;
 }
 

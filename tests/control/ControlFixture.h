@@ -7,8 +7,11 @@
 
 #include <gtest/gtest.h>
 
+#include <QColor>
+#include <QSize>
 #include <QTemporaryDir>
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -65,6 +68,23 @@ inline TransCond groupRecord()
     return record(RowKindGroup, 0, "", "", 0, 0);
 }
 
+/// An icon library of plain colours, a different one for each request, that remembers what it was
+/// asked.
+class ColouredIcons final : public IconLibrary {
+public:
+    IconResult result = IconResult::Loaded;
+    std::vector<QString> requests;
+    std::vector<int> uses;
+
+    IconResult loadIcon(const CString& name, int use, IconPixels& icon) override;
+    IconResult loadImage(const CString& name, int use, IconPixels& strip) override;
+    /// The colour of the n-th icon, counted from 0.
+    [[nodiscard]] static QColor colour(int n);
+
+private:
+    IconResult answer(const CString& name, int use, int images, IconPixels& pixels);
+};
+
 /// A control on a library of the test's own, with recorded messages and nothing of the machine.
 class ControlFixture : public testing::Test {
 protected:
@@ -84,13 +104,17 @@ protected:
 
     FakeLibraryHolder library;
     std::vector<QString> messages;
+    std::vector<QWidget*> messageOwners;
+    std::vector<unsigned> messageTypes;
+    std::function<void()> duringMessage;  ///< what the host does while a message is open
     std::map<LONG, QString> translations; ///< by text id; the default where there is none
     int bitsPerPixel = 32;
+    QSize iconSize{20, 24};
+    std::shared_ptr<ColouredIcons> icons = std::make_shared<ColouredIcons>();
     QTemporaryDir folder;
     std::shared_ptr<RegistryStore> registry; ///< on two files in folder
     std::unique_ptr<OpenCtrl> control;
 
-private:
     [[nodiscard]] Services services();
 };
 

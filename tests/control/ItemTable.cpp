@@ -12,7 +12,7 @@ TEST(ItemTable, AHandleFindsItsNodeAndPicture)
 {
     ItemTable table;
     VarTreeCtrlNode node(NodeVariable);
-    const HTREEITEM item = table.add(node, 3);
+    const HTREEITEM item = table.add(node, 3, 0);
     EXPECT_NE(item, nullptr);
     EXPECT_EQ(table.node(item), &node);
     EXPECT_EQ(table.image(item), 3);
@@ -22,7 +22,7 @@ TEST(ItemTable, NoHandleAndForeignHandlesNameNothing)
 {
     ItemTable table;
     VarTreeCtrlNode node(NodeVariable);
-    table.add(node, 0);
+    table.add(node, 0, 0);
     for (const HTREEITEM item : {HTREEITEM{nullptr}, TVI_ROOT, TVI_FIRST, TVI_LAST,
                                  reinterpret_cast<HTREEITEM>(std::uintptr_t{77})}) {
         EXPECT_EQ(table.node(item), nullptr);
@@ -36,9 +36,9 @@ TEST(ItemTable, AHandleWhoseRowIsGoneNeverNamesTheRowThatTookItsSlot)
     ItemTable table;
     VarTreeCtrlNode first(NodeVariable);
     VarTreeCtrlNode second(NodeVariable);
-    const HTREEITEM gone = table.add(first, 0);
+    const HTREEITEM gone = table.add(first, 0, 0);
     table.remove(gone);
-    const HTREEITEM alive = table.add(second, 0);
+    const HTREEITEM alive = table.add(second, 0, 0);
     EXPECT_NE(gone, alive);
     EXPECT_EQ(table.node(gone), nullptr);
     EXPECT_EQ(table.node(alive), &second);
@@ -52,7 +52,7 @@ TEST(ItemTable, APlaceIsFoundWhereverTheRowHasMoved)
     std::vector<VarTreeCtrlNode*> level;
     for (int i = 0; i < 20; ++i) {
         level.push_back(new VarTreeCtrlNode(NodeVariable));
-        level.back()->mhItem = table.add(*level.back(), 0);
+        level.back()->mhItem = table.add(*level.back(), 0, 0);
     }
     for (int round = 0; round < 20; ++round) {
         for (std::size_t i = 0; i < level.size(); ++i)

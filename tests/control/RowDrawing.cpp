@@ -10,12 +10,22 @@
 #include <QStyle>
 #include <QTest>
 
+#include <algorithm>
 #include <array>
 
 namespace condtree::test {
 namespace {
 
 const QColor kLine(160, 160, 220);
+
+struct PaintCounter : QObject {
+    int count = 0;
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+};
 
 class RowDrawing : public ControlFixture {
 protected:
@@ -176,6 +186,18 @@ TEST_F(RowDrawing, PaintingChangesNoNode)
     EXPECT_EQ(rows(), before);
 }
 
+TEST_F(RowDrawing, TextsThatSavingAltersAreDrawnAgain)
+{
+    loaded({record(3, 2, "Author", "a", 1, 106)});
+    show();
+    QCoreApplication::processEvents();
+    PaintCounter paints;
+    control->viewport()->installEventFilter(&paints);
+    EXPECT_EQ(savedRecords(true).size(), 1U);
+    QCoreApplication::processEvents();
+    EXPECT_GT(paints.count, 0);
+}
+
 TEST_F(RowDrawing, ARowInAClosedGroupHasNoPlace)
 {
     loaded({groupRecord(), record(4, 2, "Author", "a", 1, 100)});
@@ -192,21 +214,172 @@ TEST_F(RowDrawing, TheTextBeginsBehindThePictureAndARowSpansTheViewport)
     const RowPlace place = placeOfRow(*control, at(0)).value();
     const QRect item = rowRect(at(0));
     EXPECT_EQ(place.row, (RECT{0, item.top(), control->viewport()->width(), item.bottom() + 1}));
-    EXPECT_GE(place.textLeft, item.left() + control->iconSize().width());
-    EXPECT_LT(place.textLeft, item.left() + control->iconSize().width() + 12);
+    const int margin = control->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1;
+    EXPECT_EQ(place.textLeft, item.left() + control->iconSize().width() + 2 * margin);
 }
 
 TEST_F(RowDrawing, RowsAreAsHighAsTheResolutionAndTheFontAsk)
 {
     loaded({});
     show();
-    const int height = rowRect(at(0)).height();
-    EXPECT_GE(height, CDPIHelper::get()->getTreeItemHeight());
-    EXPECT_GE(height, control->fontMetrics().height() + 4);
-    QFont font = control->font();
-    font.setPixelSize(60);
-    control->setFont(font);
-    EXPECT_GE(rowRect(at(0)).height(), control->fontMetrics().height() + 4);
+    for (const int pixels : {6, 13, 60}) {
+        QFont font = control->font();
+        font.setPixelSize(pixels);
+        control->setFont(font);
+        EXPECT_EQ(rowRect(at(0)).height(), std::max(CDPIHelper::get()->getTreeItemHeight(),
+                                                    control->fontMetrics().height() + 6));
+    }
+}
+
+// The view's own row comes first (its picture, its branch mark, its selection), the columns over
+// it.
+TEST_F(RowDrawing, TheColumnsAreDrawnOverTheViewsOwnRow)
+{
+    loaded({record(3, 2, "Author", "a", 1, 100)});
+    show();
+    const RowPlace place = placeOfRow(*control, at(0)).value();
+    const int middle = rowRect(at(0)).center().y();
+    const QPoint inPicture(place.textLeft - 15, middle);
+    const QPoint inValue(2 * control->viewport()->width() / 4 + 60, middle);
+    const QImage plain = picture();
+    EXPECT_EQ(plain.pixelColor(inPicture), ColouredIcons::colour(3));
+    control->setCurrentIndex(at(0));
+    const QImage selected = picture();
+    EXPECT_NE(selected.pixelColor(inPicture), plain.pixelColor(inPicture));
+    EXPECT_EQ(selected.pixelColor(inValue), QColor(Qt::white));
+}
+
+TEST_F(RowDrawing, TheOperatorsPictureIsOfItsListBehindTheFirstBoundary)
+{
+    loaded({record(3, 2, "Author", "a", 1, 103)});
+    show();
+    const int boundary = control->miGetColumnSize(0, control->viewport()->width());
+    const QRect rect = rowRect(at(0));
+    // The strips are requested behind the eight row pictures, so the first one has the ninth
+    // colour.
+    EXPECT_EQ(picture().pixelColor(boundary + 3, rect.center().y()), ColouredIcons::colour(8));
+    EXPECT_EQ(picture().pixelColor(boundary + 22, rect.center().y()), ColouredIcons::colour(8));
+    EXPECT_EQ(picture().pixelColor(boundary + 2, rect.center().y()), QColor(Qt::white));
+}
+
+TEST_F(RowDrawing, PicturesOfMorePixelsAreDrawnAtTheSizeOfSmallIcons)
+{
+    iconSize = QSize(10, 12); // the library's are twice as large
+    control = std::make_unique<OpenCtrl>(nullptr, services());
+    initialize();
+    control->resize(403, 300);
+    loaded({record(3, 2, "Author", "a", 1, 100)});
+    show();
+    const RowPlace place = placeOfRow(*control, at(0)).value();
+    const int middle = rowRect(at(0)).center().y();
+    int coloured = 0;
+    for (int x = 0; x < place.textLeft; ++x)
+        coloured += picture().pixelColor(x, middle) == ColouredIcons::colour(3) ? 1 : 0;
+    EXPECT_EQ(coloured, 10);
+}
+
+TEST_F(RowDrawing, TextsAreTheStringLibrarysInTheWidgetsColour)
+{
+    loaded({record(3, 2, "", "", 1, 103)});
+    show();
+    const QImage before = picture();
+    translations = {{44, QStringLiteral("XXXXXXX")}};
+    EXPECT_NE(picture(), before);
+    translations = {{103, QStringLiteral("YYYYYYY")}};
+    EXPECT_NE(picture(), before);
+    QPalette red = control->palette();
+    red.setColor(QPalette::Text, QColor(200, 0, 0));
+    control->setPalette(red);
+    const QImage inRed = picture();
+    const QRect name(placeOfRow(*control, at(0))->textLeft + 2, rowRect(at(0)).top() + 2, 60, 16);
+    int ink = 0;
+    for (int x = name.left(); x < name.right(); ++x) {
+        for (int y = name.top(); y < name.bottom(); ++y) {
+            const QColor pixel = inRed.pixelColor(x, y);
+            ink += pixel.red() > pixel.blue() + 60 ? 1 : 0;
+        }
+    }
+    EXPECT_GT(ink, 20);
+}
+
+TEST_F(RowDrawing, TheNamesOfOperatorsStandBehindASmallIconsWidth)
+{
+    const auto inkBehindBoundary = [this](int width) {
+        iconSize = QSize(width, 24);
+        control = std::make_unique<OpenCtrl>(nullptr, services());
+        icons->result = IconResult::NoLibrary;
+        initialize();
+        control->resize(403, 300);
+        loaded({record(3, 2, "", "", 1, 103)});
+        show();
+        const QImage image = picture();
+        const int boundary = control->miGetColumnSize(0, control->viewport()->width());
+        const QRect rect = rowRect(at(0));
+        for (int x = boundary + 1; x < image.width(); ++x) {
+            for (int y = rect.top() + 2; y < rect.bottom() - 1; ++y) {
+                if (image.pixelColor(x, y).lightness() < 128)
+                    return x - boundary;
+            }
+        }
+        return 0;
+    };
+    const int narrow = inkBehindBoundary(20);
+    EXPECT_GE(narrow, 3 + 20 + 3);
+    EXPECT_EQ(inkBehindBoundary(40), narrow + 20);
+}
+
+// A subclass that answers the stages otherwise.
+class OtherDrawing final : public CondTreeCtrl {
+public:
+    using CondTreeCtrl::CondTreeCtrl;
+    LRESULT onPaint = CDRF_NOTIFYITEMDRAW;
+    LRESULT onRow = CDRF_NOTIFYPOSTPAINT;
+    std::vector<DWORD> stages;
+
+protected:
+    void OnNMCustomdraw(NMHDR* header, LRESULT* result) override
+    {
+        CondTreeCtrl::OnNMCustomdraw(header, result);
+        const DWORD stage = reinterpret_cast<NMTVCUSTOMDRAW*>(header)->dwDrawStage;
+        stages.push_back(stage);
+        *result = stage == CDDS_PREPAINT ? onPaint : stage == CDDS_ITEMPREPAINT ? onRow : *result;
+    }
+};
+
+TEST_F(RowDrawing, RowsAreToldAsTheAnswersAsk)
+{
+    OtherDrawing other(nullptr, services());
+    other.mvInitialize(nullptr, 120, KiroVaultType{}, TreeType{});
+    other.mvLoad({});
+    other.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&other));
+    const auto stagesOf = [&](LRESULT onPaint, LRESULT onRow) {
+        other.onPaint = onPaint;
+        other.onRow = onRow;
+        other.stages.clear();
+        other.viewport()->grab();
+        return other.stages;
+    };
+    EXPECT_EQ(stagesOf(CDRF_NOTIFYITEMDRAW, CDRF_NOTIFYPOSTPAINT),
+              (std::vector<DWORD>{CDDS_PREPAINT, CDDS_ITEMPREPAINT, CDDS_ITEMPOSTPAINT}));
+    EXPECT_EQ(stagesOf(CDRF_NOTIFYITEMDRAW, CDRF_DODEFAULT),
+              (std::vector<DWORD>{CDDS_PREPAINT, CDDS_ITEMPREPAINT}));
+    EXPECT_EQ(stagesOf(CDRF_DODEFAULT, CDRF_NOTIFYPOSTPAINT), std::vector<DWORD>{CDDS_PREPAINT});
+}
+
+TEST_F(RowDrawing, LinesAreCrispAndInTheirPlacesAtTwiceThePixels)
+{
+    loaded({record(3, 2, "Author", "a", 1, 100)});
+    show();
+    QImage image(control->viewport()->size() * 2, QImage::Format_RGB32);
+    image.setDevicePixelRatio(2);
+    control->viewport()->render(&image);
+    const int y = 2 * rowRect(at(0)).center().y();
+    const int boundary = 2 * control->miGetColumnSize(0, control->viewport()->width());
+    EXPECT_EQ(image.pixelColor(boundary, y), kLine);
+    EXPECT_EQ(image.pixelColor(boundary + 1, y), kLine);
+    EXPECT_EQ(image.pixelColor(boundary - 1, y), QColor(Qt::white));
+    EXPECT_EQ(image.pixelColor(boundary + 2, y), QColor(Qt::white));
 }
 
 TEST_F(RowDrawing, RowsAreDarkOnWhiteAlsoOnADarkDesktop)

@@ -16,7 +16,7 @@ const QString kNo = QStringLiteral("No");
 LONG numberAtStart(const QString& text)
 {
     qsizetype i = 0;
-    while (i < text.size() && (text[i] == u' ' || (text[i] >= u'\t' && text[i] <= u'\r')))
+    while (i < text.size() && text[i].isSpace())
         ++i;
     const bool isNegative = i < text.size() && text[i] == u'-';
     if (i < text.size() && (text[i] == u'-' || text[i] == u'+'))

@@ -223,14 +223,6 @@ TEST(RowPicture, AGroupBelowAConditionHasNoFrame)
     EXPECT_EQ(describeRow(condition(1, 100, 1000), kLayout, knownTexts).size(), 2U);
 }
 
-RC_GTEST_PROP(RowPicture, IsTheSameEveryTime, ())
-{
-    const RowContent content = condition(*rc::gen::inRange(-2, 1100), *rc::gen::inRange(-2, 200),
-                                         *rc::gen::inRange(-1, 150));
-    RC_ASSERT(describeRow(content, kLayout, knownTexts)
-              == describeRow(content, kLayout, knownTexts));
-}
-
 TEST(RowPicture, TheColoursAreTheFixedOnes)
 {
     // Red 160, green 160, blue 220.

@@ -260,7 +260,7 @@ TEST_F(CardVariablesTest, ALoadThatRunsOutOfMemoryIsTakenUpByTheNext)
     m_library->variables = {kWeight, kAuthor};
     m_library->getVariables.callsOutOfMemory = 1;
     m_library->getVariables.recordsBeforeFailure = 1;
-    EXPECT_THROW(m_variables.mbInitVars(), std::bad_alloc);
+    EXPECT_THROW(m_variables.mbInitVars(), _com_error);
     EXPECT_TRUE(m_variables.mbInitVars());
     EXPECT_EQ(listed(), (std::vector<LONG>{1, 1, 2}));
     EXPECT_EQ(found(u"Author"), 2);

@@ -115,6 +115,22 @@ TEST_F(ControlSettingsTest, FailuresAreNotExamined)
     EXPECT_FALSE(showsSecondName());
 }
 
+TEST_F(ControlSettingsTest, WhatAFailingCallFillsInIsTakenOver)
+{
+    m_library->userName = QStringLiteral("ann");
+    m_library->userId = 42;
+    m_library->settings = {{24, QStringLiteral("1")}};
+    for (test::FakeLibrary::Operation* operation :
+         {&m_library->getConnectInfo, &m_library->getUserId, &m_library->getUserSettings}) {
+        operation->results = {E_FAIL};
+        operation->fillsInOnFailure = true;
+    }
+    EXPECT_TRUE(m_settings.mbInitSettings());
+    EXPECT_EQ(m_library->askedUserName, QStringLiteral("ann"));
+    EXPECT_EQ(m_settings.currentUserId(), 42);
+    EXPECT_TRUE(showsSecondName());
+}
+
 TEST_F(ControlSettingsTest, WithoutTheUserProcedureTheIdStaysZero)
 {
     m_library->userId = 42;

@@ -177,7 +177,7 @@ TEST_P(PeopleTest, ALoadThatRunsOutOfMemoryIsTriedAgain)
     contents() = {kAnn, kBob};
     operation().callsOutOfMemory = 1;
     operation().recordsBeforeFailure = 1;
-    EXPECT_THROW(m_people.init(), std::bad_alloc);
+    EXPECT_THROW(m_people.init(), _com_error);
     EXPECT_EQ(idOf(u"Bob"), 0);
     EXPECT_TRUE(m_people.init());
     EXPECT_EQ(listed(), (std::vector<LONG>{11, 12}));

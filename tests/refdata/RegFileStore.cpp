@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QProcess>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 #include <array>
@@ -372,6 +373,20 @@ TEST(RegFilePathsTest, OtherwiseTheyLieInTheConfigurationFolders)
     const RegFilePaths paths = RegFilePaths::standard();
     EXPECT_EQ(paths.user, QStringLiteral("/home/one/settings/condtree/user.reg"));
     EXPECT_EQ(paths.machine, QStringLiteral("/etc/first/condtree/machine.reg"));
+}
+
+TEST(RegFilePathsTest, TheMachinesFileIsTheFirstThatThereIs)
+{
+    const QTemporaryDir folder;
+    const QString second = folder.filePath(QStringLiteral("second/condtree/machine.reg"));
+    ASSERT_TRUE(QDir().mkpath(QFileInfo(second).path()));
+    QFile file(second);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    const Environment own("CONDTREE_REGISTRY_DIR", "");
+    const QString folders = folder.filePath(QStringLiteral("first")) + QLatin1Char(':')
+                            + folder.filePath(QStringLiteral("second"));
+    const Environment machine("XDG_CONFIG_DIRS", folders.toLocal8Bit());
+    EXPECT_EQ(RegFilePaths::standard().machine, second);
 }
 
 TEST(RegFilePathsTest, TheMachinesFolderHasADefaultAndIsAbsolute)

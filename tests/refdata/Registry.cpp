@@ -38,6 +38,10 @@ TEST_F(RegistryTest, CreatingMakesTheKey)
     Registry key(m_store);
     EXPECT_EQ(key.create(HKEY_CURRENT_USER, QStringLiteral("A\\B"), KEY_READ_WRITE), ERROR_SUCCESS);
     EXPECT_NE(key.key(), nullptr);
+    EXPECT_EQ(key.status(), ERROR_SUCCESS);
+    EXPECT_NE(key.create(nullptr, QStringLiteral("A"), KEY_READ_WRITE), ERROR_SUCCESS);
+    EXPECT_NE(key.status(), ERROR_SUCCESS);
+    EXPECT_EQ(key.key(), nullptr);
     Registry other(m_store);
     EXPECT_EQ(other.open(HKEY_CURRENT_USER, QStringLiteral("A\\B"), KEY_QUERY_VALUE),
               ERROR_SUCCESS);

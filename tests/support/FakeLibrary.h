@@ -55,6 +55,8 @@ public:
         std::deque<HRESULT> results;
         /// How many records a failing call appends before it fails (at most all).
         std::size_t recordsBeforeFailure = 0;
+        /// A failing call of an operation that fills something in does so all the same.
+        bool fillsInOnFailure = false;
         /// How many of the next calls throw std::bad_alloc, after as many records as a failing one.
         int callsOutOfMemory = 0;
         /// Called at the beginning of each call.

@@ -6,6 +6,6 @@ namespace condtree {
 
 /// The English text of one of the platform's standard result codes, without a line end; empty for a
 /// code that is not among them.
-[[nodiscard]] CString systemText(HRESULT code);
+[[nodiscard]] CONDTREE_EXPORT CString systemText(HRESULT code);
 
 } // namespace condtree
