@@ -1,1 +1,29 @@
 #pragma once
+
+#include <condtree/platform/WinTypes.h>
+
+#include <QStringList>
+
+class QCoreApplication;
+
+namespace condtree {
+
+/// The language of the texts, as a name like "de" or "pt_BR". A catalogue is a file of Qt's
+/// translation format named condtree_<language>.qm; its entries have the section as the context,
+/// the English text as the source and "<key> <id>" as the disambiguation. As the format has it, a
+/// number without an entry takes the first entry of its section with the same English text.
+
+/// Where the catalogues that come with the library may lie, most specific first: beside the
+/// library, in its prefix, and in the data folders of the user and the machine. Not all of them
+/// need exist.
+[[nodiscard]] CONDTREE_EXPORT QStringList languageFolders();
+
+/// Makes a language the application's, in place of the one that was loaded so before: the catalogue
+/// in the first of folders that has one is installed as a translator that the application owns.
+/// Texts that were fetched before stay as they are. Language "en" needs no catalogue; an empty name
+/// is "en". False when the texts stay English because the catalogue is missing or cannot be read,
+/// which is written to the log as one line.
+CONDTREE_EXPORT bool loadLanguage(QCoreApplication& application, const CString& language,
+                                  const QStringList& folders = languageFolders());
+
+} // namespace condtree

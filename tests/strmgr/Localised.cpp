@@ -1,0 +1,244 @@
+#include <condtree/platform/StrMgr.h>
+#include <condtree/strmgr/Language.h>
+
+#include "support/WarningGuard.h"
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <QTranslator>
+
+#include <tuple>
+#include <vector>
+
+namespace condtree {
+namespace {
+
+const QString kTestFolder = QStringLiteral(CONDTREE_TEST_TRANSLATIONS);
+
+/// Starts in English and leaves English behind.
+class Localised : public testing::Test {
+protected:
+    void SetUp() override { loadLanguage(*QCoreApplication::instance(), {}, {}); }
+    void TearDown() override { SetUp(); }
+
+    static bool load(const QString& language, const QStringList& folders = {kTestFolder})
+    {
+        return loadLanguage(*QCoreApplication::instance(), language, folders);
+    }
+    static qsizetype translators()
+    {
+        return QCoreApplication::instance()->findChildren<QTranslator*>().size();
+    }
+};
+
+TEST_F(Localised, TheDefaultTextIsGivenWhereNoLanguageIsLoaded)
+{
+    EXPECT_EQ(TSS_internal(733, u"TS", u"Workflow", u"File"), QStringLiteral("File"));
+    EXPECT_EQ(TSS_internal(-1, u"X", u"Y", u"Größe 𝄞"), QStringLiteral("Größe 𝄞"));
+}
+
+TEST_F(Localised, ATextIsFoundByItsNumberKeyAndSection)
+{
+    ASSERT_TRUE(load(QStringLiteral("xt")));
+    EXPECT_EQ(TSS_internal(733, u"TS", u"Workflow", u"File"), QStringLiteral("Datei"));
+    EXPECT_EQ(TSS_internal(734, u"TS", u"Workflow", u"File"), QStringLiteral("Akte"));
+    EXPECT_EQ(TSS_internal(733, u"TS", u"Search", u"File"), QStringLiteral("Suchdatei"));
+    EXPECT_EQ(TSS_internal(733, u"RefDlg", u"Workflow", u"File"), QStringLiteral("Verweisdatei"));
+}
+
+TEST_F(Localised, ANegativeNumberAndTextBeyondAsciiAreFoundAndPlaceMarkersKept)
+{
+    ASSERT_TRUE(load(QStringLiteral("xt")));
+    EXPECT_EQ(TSS_internal(-5, u"TS", u"Workflow", u"Größe"), QStringLiteral("Maße %1 von %n"));
+}
+
+TEST_F(Localised, ATextWithoutATranslationFallsBackToItsDefault)
+{
+    ASSERT_TRUE(load(QStringLiteral("xt")));
+    EXPECT_EQ(TSS_internal(733, u"TS", u"ItemMgr", u"File"), QStringLiteral("File"));
+    EXPECT_EQ(TSS_internal(733, u"TS", u"Workflow", u"Files"), QStringLiteral("Files"));
+    EXPECT_EQ(TSS_internal(180, u"TS", u"Workflow", u"Group"), QStringLiteral("Group"));
+}
+
+TEST_F(Localised, ANumberWithoutAnEntryTakesTheSameTextOfItsSection)
+{
+    ASSERT_TRUE(load(QStringLiteral("xt")));
+    EXPECT_EQ(TSS_internal(735, u"TS", u"Workflow", u"File"), QStringLiteral("Datei"));
+}
+
+TEST_F(Localised, AnOperatorIsFoundByItsNumberWhateverTheDefault)
+{
+    for (const char16_t* defaultText : {u"?", u"String Contains", u""}) {
+        ASSERT_TRUE(load(QStringLiteral("xt")));
+        EXPECT_EQ(TSS_internal(106, u"OpName", u"Search", defaultText),
+                  QStringLiteral("Text enthält"));
+        ASSERT_TRUE(load(QStringLiteral("en"), {}));
+        EXPECT_EQ(TSS_internal(106, u"OpName", u"Search", defaultText),
+                  QStringLiteral("String Contains"));
+    }
+}
+
+TEST_F(Localised, ANumberThatNamesNoOperatorHasItsDefault)
+{
+    for (const LONG id : {99, 109, 119, 126, 129, 136, 138, 140, 160}) {
+        EXPECT_EQ(TSS_internal(id, u"OpName", u"Search", u"?"), QStringLiteral("?")) << id;
+        EXPECT_EQ(TSS_internal(id, u"OpName", u"Search", u""), QString()) << id;
+    }
+}
+
+TEST_F(Localised, EveryOperatorHasItsEnglishName)
+{
+    const std::vector<std::pair<LONG, const char*>> names{
+        {100, "String Equal To"},
+        {101, "String Not Equal To"},
+        {102, "String Less Than"},
+        {103, "String Bigger Than"},
+        {104, "String Less Than or Equal"},
+        {105, "String Bigger Than or Equal"},
+        {106, "String Contains"},
+        {107, "String Does Not Contain"},
+        {108, "Text Compare"},
+        {120, "Number Equal To"},
+        {121, "Number Not Equal To"},
+        {122, "Number Less Than"},
+        {123, "Number Bigger Than"},
+        {124, "Number Less Than or Equal"},
+        {125, "Number Bigger Than or Equal"},
+        {130, "Date Equal To"},
+        {131, "Date Not Equal To"},
+        {132, "Date Less Than"},
+        {133, "Date Bigger Than"},
+        {134, "Date Less Than or Equal"},
+        {135, "Date Bigger Than or Equal"},
+        {139, "Binary Equal To"},
+    };
+    for (const auto& [id, name] : names)
+        EXPECT_EQ(TSS_internal(id, u"OpName", u"Search", u"?").toStdString(), name) << id;
+}
+
+TEST_F(Localised, AnEmptyDefaultIsNotTheCataloguesHeader)
+{
+    ASSERT_TRUE(load(QStringLiteral("xt")));
+    EXPECT_EQ(TSS_internal(1, u"", u"", u""), QString());
+    EXPECT_EQ(TSS_internal(1, nullptr, nullptr, nullptr), QString());
+}
+
+TEST_F(Localised, AnotherLanguageReplacesTheOneBefore)
+{
+    ASSERT_TRUE(load(QStringLiteral("xt")));
+    ASSERT_TRUE(load(QStringLiteral("xu")));
+    EXPECT_EQ(TSS_internal(106, u"OpName", u"Search", u"?"), QStringLiteral("Texte contient"));
+    // Not in the second catalogue, and the first one is gone.
+    EXPECT_EQ(TSS_internal(733, u"TS", u"Workflow", u"File"), QStringLiteral("File"));
+    EXPECT_EQ(translators(), 1);
+}
+
+TEST_F(Localised, TheFirstFolderThatHasACatalogueIsTaken)
+{
+    const QTemporaryDir empty;
+    ASSERT_TRUE(load(QStringLiteral("xt"),
+                     {QString(), QStringLiteral("/nowhere"), empty.path(), kTestFolder}));
+    EXPECT_EQ(TSS_internal(733, u"TS", u"Workflow", u"File"), QStringLiteral("Datei"));
+
+    const QTemporaryDir first;
+    ASSERT_TRUE(QFile::copy(kTestFolder + QStringLiteral("/condtree_xu.qm"),
+                            first.filePath(QStringLiteral("condtree_xt.qm"))));
+    ASSERT_TRUE(load(QStringLiteral("xt"), {first.path(), kTestFolder}));
+    EXPECT_EQ(TSS_internal(106, u"OpName", u"Search", u"?"), QStringLiteral("Texte contient"));
+}
+
+TEST_F(Localised, AMissingCatalogueIsOneLogLineAndEnglish)
+{
+    ASSERT_TRUE(load(QStringLiteral("xt")));
+    {
+        const test::ExpectWarning warning(QStringLiteral("xx"));
+        EXPECT_FALSE(load(QStringLiteral("xx")));
+        EXPECT_EQ(warning.count(), 1);
+    }
+    EXPECT_EQ(TSS_internal(733, u"TS", u"Workflow", u"File"), QStringLiteral("File"));
+    EXPECT_EQ(translators(), 0);
+}
+
+TEST_F(Localised, ABrokenCatalogueIsOneLogLineAndEnglish)
+{
+    QFile good(kTestFolder + QStringLiteral("/condtree_xt.qm"));
+    ASSERT_TRUE(good.open(QIODevice::ReadOnly));
+    const QByteArray bytes = good.readAll();
+    const QTemporaryDir folder;
+    for (const QByteArray& broken : {QByteArray("not a catalogue at all"), bytes.left(40),
+                                     bytes.left(3), QByteArray(), QByteArray(4096, '\xff')}) {
+        QFile file(folder.filePath(QStringLiteral("condtree_xb.qm")));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(broken);
+        file.close();
+        const test::ExpectWarning warning(QStringLiteral("condtree_xb.qm"));
+        EXPECT_FALSE(load(QStringLiteral("xb"), {folder.path()})) << broken.size();
+        EXPECT_EQ(warning.count(), 1);
+        EXPECT_EQ(TSS_internal(733, u"TS", u"Workflow", u"File"), QStringLiteral("File"));
+        EXPECT_EQ(translators(), 0);
+    }
+}
+
+TEST_F(Localised, ANameThatLeadsOutOfTheFolderIsNoLanguage)
+{
+    const test::ExpectWarning warning(QStringLiteral("no texts for the language"));
+    EXPECT_FALSE(load(QStringLiteral("../translations/condtree_xt")));
+    EXPECT_FALSE(load(QStringLiteral("x/../../xt")));
+    EXPECT_EQ(warning.count(), 2);
+}
+
+TEST_F(Localised, EnglishNeedsNoCatalogue)
+{
+    EXPECT_TRUE(load(QStringLiteral("en"), {}));
+    EXPECT_TRUE(load(QString(), {}));
+    EXPECT_EQ(translators(), 0);
+}
+
+TEST_F(Localised, TheEnglishCatalogueIsFoundBesideTheLibraryAndChangesNoText)
+{
+    ASSERT_TRUE(load(QStringLiteral("en"), languageFolders()));
+    ASSERT_EQ(translators(), 1);
+    const std::vector<std::tuple<LONG, const char16_t*, const char16_t*>> texts{
+        {38, u"Search", u"And"},
+        {39, u"Search", u"Or"},
+        {44, u"Search", u"<Any Variable>"},
+        {55, u"Search", u"Remove"},
+        {70, u"Search", u"<Click here to add a condition>"},
+        {20, u"Workflow", u"FilePath"},
+        {21, u"Workflow", u"Revision"},
+        {40, u"Workflow", u"User"},
+        {58, u"Workflow", u"Yes"},
+        {59, u"Workflow", u"No"},
+        {87, u"Workflow", u"Category"},
+        {180, u"Workflow", u"Group"},
+        {732, u"Workflow", u"Object Type"},
+        {733, u"Workflow", u"File"},
+        {734, u"Workflow", u"BOM"},
+        {756, u"Workflow", u"Child Reference State"},
+        {757, u"Workflow", u"Child Reference historic State"},
+        {15, u"ItemMgr", u"Item"},
+    };
+    const auto* const catalogue =
+        QCoreApplication::instance()->findChildren<QTranslator*>().first();
+    for (const auto& [id, section, text] : texts) {
+        const QString expected = QString::fromUtf16(text);
+        EXPECT_EQ(TSS_internal(id, u"TS", section, text), expected) << id;
+        const QByteArray comment = "TS " + QByteArray::number(id);
+        EXPECT_EQ(
+            catalogue->translate(QString::fromUtf16(section).toUtf8(), expected.toUtf8(), comment),
+            expected)
+            << "not in the catalogue: " << id;
+    }
+    for (LONG id = 100; id < 140; ++id) {
+        const QString name = TSS_internal(id, u"OpName", u"Search", u"");
+        const QByteArray comment = "OpName " + QByteArray::number(id);
+        EXPECT_EQ(catalogue->translate("Search", name.toUtf8(), comment), name) << id;
+    }
+}
+
+} // namespace
+} // namespace condtree
