@@ -7,6 +7,17 @@
 add_library(condtree_public_headers INTERFACE)
 target_include_directories(condtree_public_headers INTERFACE "${PROJECT_BINARY_DIR}/include/public")
 
+# The toolkit's include root holds all its modules, so that not linking one does not keep its headers out.
+# A fence in front of it does: the global header of a module that is not linked is an error.
+function(condtree_fence target)
+  if(NOT "Qt6::Widgets" IN_LIST ARGN)
+    target_include_directories(${target} BEFORE PRIVATE "${PROJECT_SOURCE_DIR}/cmake/fence/widgets")
+    if(NOT "Qt6::Gui" IN_LIST ARGN)
+      target_include_directories(${target} BEFORE PRIVATE "${PROJECT_SOURCE_DIR}/cmake/fence/gui")
+    endif()
+  endif()
+endfunction()
+
 function(condtree_folder folder)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "TYPE" "SOURCES;PUBLIC_HEADERS;HEADERS;LINK;PRIVATE_LINK")
   if(NOT arg_TYPE)
@@ -20,6 +31,7 @@ function(condtree_folder folder)
   file(CREATE_LINK "${CMAKE_CURRENT_SOURCE_DIR}" "${root}/condtree/${folder}" SYMBOLIC)
   target_include_directories(${target} PUBLIC "$<BUILD_INTERFACE:${root}>")
   target_link_libraries(${target} PUBLIC ${arg_LINK} PRIVATE ${arg_PRIVATE_LINK} $<BUILD_INTERFACE:condtree_options>)
+  condtree_fence(${target} ${arg_LINK} ${arg_PRIVATE_LINK})
 
   set(public_root "${PROJECT_BINARY_DIR}/include/public/condtree/${folder}")
   file(MAKE_DIRECTORY "${public_root}")

@@ -1,0 +1,11 @@
+#!/usr/bin/env bash
+# Builds everything and runs every test; arguments go to ctest (./test.sh -R values).
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")"
+source cmake/setup.sh
+
+condtree_require build test
+
+cmake --preset dev
+cmake --build --preset dev
+exec ctest --preset dev "$@"
