@@ -25,7 +25,11 @@ protected:
     {
         return addTo(control->mpoGetNode(TVI_ROOT), code, name, value, op);
     }
-    void emptyTree() { control->mhAddNode(nullptr, new VarTreeCtrlNode(NodeAnd), false); }
+    void emptyTree()
+    {
+        control->mvDeleteNode(TVI_ROOT);
+        control->mhAddNode(nullptr, new VarTreeCtrlNode(NodeAnd), false);
+    }
 };
 
 TEST_F(ConditionSaver, ATreeWithOnlyThePlaceholderWritesNothing)
