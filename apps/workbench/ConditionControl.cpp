@@ -2,6 +2,9 @@
 
 #include <QApplication>
 
+#include <algorithm>
+#include <array>
+
 namespace condtree::workbench {
 
 namespace {
@@ -12,6 +15,12 @@ constexpr LONG kDateStyle = 120;
 // to the one tree type that leaves child reference states out.
 constexpr KiroVaultType kVaultType{0};
 constexpr TreeType kTreeType{0};
+
+// The kinds of condition whose values are ids, which are shown by names.
+constexpr LONG kChildState = 7;
+constexpr LONG kUser = 8;
+constexpr LONG kGroup = 9;
+constexpr LONG kHistoricState = 10;
 
 TransCond toTransCond(const SpConditionRecord& record)
 {
@@ -37,12 +46,25 @@ SpConditionRecord toRecord(const TransCond& cond)
 struct ConditionControl::Messages {
     bool isCollecting = false;
     QStringList collected;
+};
 
-    QStringList takeAll()
+/// Collects messages while it lives; whatever ends it, later ones are shown again.
+class ConditionControl::Collecting {
+public:
+    explicit Collecting(Messages& messages)
+        : m_messages(messages)
     {
-        isCollecting = false;
-        return std::exchange(collected, {});
+        m_messages.collected.clear();
+        m_messages.isCollecting = true;
     }
+    Collecting(const Collecting&) = delete;
+    Collecting& operator=(const Collecting&) = delete;
+    ~Collecting() { m_messages.isCollecting = false; }
+
+    [[nodiscard]] QStringList takeAll() { return std::exchange(m_messages.collected, {}); }
+
+private:
+    Messages& m_messages;
 };
 
 ConditionControl::ConditionControl(SpMgr* manager, QWidget* parent, Services services)
@@ -70,25 +92,60 @@ ConditionControl::ConditionControl(SpMgr* manager, QWidget* parent, Services ser
     mvInitialize(manager, kDateStyle, kVaultType, kTreeType);
 }
 
+MaybeFailure ConditionControl::prepare(const ConditionRecords& records)
+{
+    struct Need {
+        LONG condType;
+        bool (CondTreeCtrl::*load)();
+    };
+    const std::array needs{Need{kChildState, &ConditionControl::mbInitWorkflowStates},
+                           Need{kHistoricState, &ConditionControl::mbInitWorkflowStates},
+                           Need{kUser, &ConditionControl::mbInitUsers},
+                           Need{kGroup, &ConditionControl::mbInitGroups}};
+    Collecting messages(*m_messages);
+    for (const Need& need : needs) {
+        const bool isNeeded =
+            std::any_of(records.begin(), records.end(), [&](const SpConditionRecord& record) {
+                return record.condType == need.condType;
+            });
+        if (!isNeeded || (this->*need.load)())
+            continue;
+        const QStringList failures = messages.takeAll();
+        if (!failures.isEmpty())
+            return Failure{failures.first()};
+    }
+    return std::nullopt;
+}
+
 QStringList ConditionControl::setRecords(const ConditionRecords& records)
 {
     std::vector<TransCond> conds;
     conds.reserve(records.size());
     for (const SpConditionRecord& record : records)
         conds.push_back(toTransCond(record));
-    m_messages->isCollecting = true;
+    Collecting messages(*m_messages);
     mvLoad(conds);
-    expandAll();
-    return m_messages->takeAll();
+    for (int row = 0; row < model()->rowCount(); ++row) {
+        const QModelIndex index = model()->index(row, 0);
+        if (model()->hasChildren(index))
+            expand(index);
+    }
+    return messages.takeAll();
 }
 
 Outcome<ConditionRecords> ConditionControl::records()
 {
     std::vector<TransCond> conds;
-    m_messages->isCollecting = true;
+    Collecting messages(*m_messages);
+    // Once, instead of once a row.
+    if (!mbInitVars()) {
+        const QStringList failures = messages.takeAll();
+        if (!failures.isEmpty())
+            return Failure{failures.first()};
+    }
     // Writing the operators into the values would change the rows that are shown.
     mvSave(conds, nullptr, false);
-    const QStringList failures = m_messages->takeAll();
+    const QStringList failures = messages.takeAll();
     if (!failures.isEmpty())
         return Failure{failures.first()};
     ConditionRecords records;

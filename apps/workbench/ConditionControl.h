@@ -18,6 +18,10 @@ public:
     explicit ConditionControl(SpMgr* manager, QWidget* parent = nullptr,
                               Services services = realServices());
 
+    /// Loads the names that the rows of a condition show. Fails at the first that cannot be loaded;
+    /// the rows that are shown stay.
+    [[nodiscard]] MaybeFailure prepare(const ConditionRecords& records);
+
     /// Shows a condition with every group open. Returns the failures that the control told of, each
     /// once: names that could not be read are missing in the rows then, their ids are not.
     QStringList setRecords(const ConditionRecords& records);
@@ -31,6 +35,7 @@ public:
 
 private:
     struct Messages;
+    class Collecting;
     ConditionControl(SpMgr* manager, QWidget* parent, Services services,
                      std::shared_ptr<Messages> messages);
 

@@ -1,5 +1,7 @@
 #include "ConditionEditor.h"
 
+#include "RecordChanges.h"
+
 #include <QEvent>
 #include <QLabel>
 #include <QLocale>
@@ -55,6 +57,8 @@ MaybeFailure ConditionEditor::open(const SpTransition& transition)
     const Outcome<SpCondition> condition = m_database.load(transition);
     if (!condition.hasValue())
         return condition.failure();
+    if (const auto failure = m_control->prepare(condition.value().records))
+        return failure;
     m_version = condition.value().version;
     m_transition = transition;
     m_clean = fill(condition.value().records);
@@ -77,6 +81,7 @@ MaybeFailure ConditionEditor::save()
         return version.failure();
     m_version = version.value();
     m_clean = records.value();
+    m_failures.clear();
     showWarnings({});
     setUnsaved(false);
     return std::nullopt;
@@ -89,6 +94,8 @@ MaybeFailure ConditionEditor::importJson(const QByteArray& json)
     const Outcome<ConditionRecords> records = conditionFromJson(json);
     if (!records.hasValue())
         return records.failure();
+    if (const auto failure = m_control->prepare(records.value()))
+        return failure;
     const std::optional<ConditionRecords> filled = fill(records.value());
     setUnsaved(!filled || filled != m_clean);
     return std::nullopt;
@@ -118,14 +125,23 @@ void ConditionEditor::changeEvent(QEvent* event)
 
 std::optional<ConditionRecords> ConditionEditor::fill(const ConditionRecords& records)
 {
-    QStringList warnings = m_control->setRecords(records);
+    m_failures = m_control->setRecords(records);
     const Outcome<ConditionRecords> stored = m_control->records();
-    if (!stored.hasValue() && !warnings.contains(stored.failure().text))
-        warnings.append(stored.failure().text);
+    if (!stored.hasValue() && !m_failures.contains(stored.failure().text))
+        m_failures.append(stored.failure().text);
+    QStringList warnings = m_failures;
     if (stored.hasValue() && stored.value().size() < records.size())
         warnings.append(tr("Saving will drop %1 of the %2 records that were read.")
                             .arg(records.size() - stored.value().size())
                             .arg(records.size()));
+    const auto changed = stored.hasValue() ? rowsChangedBySaving(records, stored.value())
+                                           : std::vector<std::size_t>();
+    if (!changed.empty())
+        warnings.append(tr("Saving will store something else than was read: %1 of the %2 records, "
+                           "%3.")
+                            .arg(changed.size())
+                            .arg(records.size())
+                            .arg(rowNumbers(changed)));
     showWarnings(warnings);
     return stored.hasValue() ? std::optional(stored.value()) : std::nullopt;
 }

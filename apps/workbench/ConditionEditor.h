@@ -34,6 +34,8 @@ public:
     /// Shows what the database says anew of the same transition: its last change.
     void setTransition(const SpTransition& transition);
     [[nodiscard]] bool isUnsaved() const { return m_isUnsaved; }
+    /// What the control told of when the rows were last shown; not what saving would change.
+    [[nodiscard]] const QStringList& failures() const { return m_failures; }
     [[nodiscard]] ConditionControl& control() const { return *m_control; }
 
 Q_SIGNALS:
@@ -58,6 +60,7 @@ private:
     /// The rows as saving would have stored them right after loading or saving; none when that
     /// failed.
     std::optional<ConditionRecords> m_clean;
+    QStringList m_failures;
     bool m_isUnsaved = false;
     QLabel* m_title;
     QLabel* m_states;

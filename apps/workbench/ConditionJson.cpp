@@ -17,6 +17,7 @@ namespace {
 
 constexpr const char* kFormat = "condtree-condition";
 constexpr int kVersion = 1;
+constexpr qsizetype kMostValues = 4'000'000;
 
 using Number = LONG SpConditionRecord::*;
 using Text = SpStr SpConditionRecord::*;
@@ -71,6 +72,10 @@ void appendText(QByteArray& json, const QString& text)
             json += "\\r";
         else if (c == '\t')
             json += "\\t";
+        else if (c == '\b')
+            json += "\\b";
+        else if (c == '\f')
+            json += "\\f";
         else if (c >= 0 && c < 0x20)
             json += "\\u00" + QByteArray(1, c).toHex();
         else
@@ -220,13 +225,23 @@ MaybeFailure checkHead(const QJsonObject& root)
 }
 
 /// A failure at a byte of the whole file.
-Failure notJson(const QByteArray& json, const QString& what, qsizetype offset)
+Failure failureAt(const QByteArray& json, const QString& what, qsizetype offset)
 {
     const qsizetype at = std::min(offset, json.size());
-    return {QStringLiteral("not JSON: %1 (byte %2, line %3)")
+    return {QStringLiteral("%1 (byte %2, line %3)")
                 .arg(what)
                 .arg(at)
                 .arg(QByteArrayView(json).first(at).count('\n') + 1)};
+}
+
+Failure notJson(const QByteArray& json, const QString& what, qsizetype offset)
+{
+    return failureAt(json, QStringLiteral("not JSON: %1").arg(what), offset);
+}
+
+QString tooManyValues()
+{
+    return QStringLiteral("more than %1 values").arg(kMostValues);
 }
 
 MaybeFailure checkEncoding(const QByteArray& json)
@@ -249,6 +264,9 @@ Outcome<QJsonDocument> parsed(const QByteArray& json)
         return *failure;
     const qsizetype mark = json.startsWith("\xEF\xBB\xBF") ? 3 : 0;
     const QByteArray text = QByteArray::fromRawData(json.constData() + mark, json.size() - mark);
+    // The document takes many times the memory of its text when that is all brackets.
+    if (const auto offset = findTooManyValues(text, kMostValues))
+        return failureAt(json, tooManyValues(), *offset + mark);
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(text, &error);
     if (error.error != QJsonParseError::NoError)
@@ -262,14 +280,22 @@ Outcome<QJsonDocument> parsed(const QByteArray& json)
 
 Outcome<QByteArray> conditionToJson(const ConditionRecords& records)
 {
+    const QByteArray end = "\n]}\n";
     QByteArray json = R"({"format":")" + QByteArray(kFormat) + R"(","version":)"
                       + QByteArray::number(kVersion) + R"(,"records":[)";
     for (std::size_t i = 0; i < records.size(); ++i) {
         json += i == 0 ? "\n" : ",\n";
         if (const auto failure = appendRecord(json, records[i], i))
             return *failure;
+        if (json.size() > kLargestJson - end.size())
+            return Failure{QStringLiteral("the condition takes more than the %1 bytes that a file "
+                                          "may have")
+                               .arg(kLargestJson)};
     }
-    json += records.empty() ? "]}\n" : "\n]}\n";
+    json += records.empty() ? "]}\n" : end;
+    if (findTooManyValues(json, kMostValues))
+        return Failure{
+            QStringLiteral("the condition has %1, which no file may have").arg(tooManyValues())};
     return json;
 }
 

@@ -21,7 +21,8 @@ using ConditionRecords = std::vector<SpConditionRecord>;
 inline constexpr qint64 kLargestJson = 64LL * 1024 * 1024;
 
 /// Writes a condition; equal records give equal bytes. Fails on text that UTF-8 or other readers
-/// cannot carry (unpaired surrogates, U+0000), naming the row, counted from 1, and the field.
+/// cannot carry (unpaired surrogates, U+0000), naming the row, counted from 1, and the field, and
+/// on what would be too large to be read again.
 [[nodiscard]] Outcome<QByteArray> conditionToJson(const ConditionRecords& records);
 
 /// Reads a condition, strictly: every field must be there once, with its type, and no other; keys

@@ -7,17 +7,42 @@
 #include <condtree/storedprocs/SpSample.h>
 
 #include <QDir>
+#include <QFileInfo>
+#include <QRegularExpression>
 #include <QStandardPaths>
-#include <QUrl>
 
 namespace condtree::workbench {
 
 namespace {
 
+const QLatin1String kSqlite("sqlite://");
+const QLatin1String kHidden("***");
+
+/// A URL as it may be shown. Rather too little than a part of a password: those who write one may
+/// write it wrongly.
 QString withoutPassword(const QString& url)
 {
-    const QUrl parsed(url);
-    return parsed.password().isEmpty() ? url : parsed.toString(QUrl::RemovePassword);
+    QString shown = url;
+    const QLatin1String separator("://");
+    const qsizetype scheme = url.indexOf(separator);
+    const qsizetype start = scheme < 0 ? 0 : scheme + separator.size();
+    const qsizetype at = url.lastIndexOf(QLatin1Char('@'));
+    // The URL of a file names nobody; its path may hold the sign.
+    const bool isFile = url.startsWith(kSqlite + QLatin1Char('/'), Qt::CaseInsensitive);
+    if (at >= start && !isFile)
+        shown.replace(start, at - start, kHidden);
+    const QRegularExpression option(QStringLiteral("((?:password|passwd|pwd)\\s*=)[^&;]*"),
+                                    QRegularExpression::CaseInsensitiveOption);
+    return shown.replace(option, QStringLiteral("\\1") + kHidden);
+}
+
+/// The file of a URL; empty when it names none.
+QString fileOf(const QString& url)
+{
+    if (!url.startsWith(kSqlite, Qt::CaseInsensitive))
+        return {};
+    const QString path = url.mid(kSqlite.size()).section(QLatin1Char('?'), 0, 0);
+    return QString::fromUtf8(QByteArray::fromPercentEncoding(path.toUtf8()));
 }
 
 Failure failureOf(const QString& what, HRESULT code)
@@ -34,6 +59,10 @@ Failure cannotOpen(const QString& url, HRESULT code)
 
 Outcome<std::unique_ptr<Database>> Database::open(const QString& url, const QString& user)
 {
+    // Only the sample is made; a mistyped name must not become a database.
+    const QString file = fileOf(url);
+    if (!file.isEmpty() && !QFileInfo::exists(file))
+        return Failure{QStringLiteral("there is no database %1").arg(file)};
     HRESULT result = E_FAIL;
     SpMgr* manager = SpConnect(url, user, &result);
     if (manager == nullptr && result == SP_E_NOT_LOGGED_IN && !user.isEmpty())
@@ -130,18 +159,21 @@ QString transitionTitle(const SpTransition& transition)
 Outcome<SpTransition> findTransition(const std::vector<SpTransition>& transitions,
                                      const QString& title)
 {
-    const SpTransition* found = nullptr;
-    for (const SpTransition& transition : transitions) {
-        if (transitionTitle(transition) != title)
-            continue;
-        if (found != nullptr)
-            return Failure{
-                QStringLiteral("more than one transition is named %1").arg(quoted(title))};
-        found = &transition;
-    }
-    if (found == nullptr)
+    std::vector<const SpTransition*> found;
+    const auto find = [&](auto&& shown) {
+        for (const SpTransition& transition : transitions) {
+            if (shown(transitionTitle(transition)) == title)
+                found.push_back(&transition);
+        }
+    };
+    find([](const QString& exact) { return exact; });
+    if (found.empty())
+        find(oneLine);
+    if (found.size() > 1)
+        return Failure{QStringLiteral("more than one transition is named %1").arg(quoted(title))};
+    if (found.empty())
         return Failure{QStringLiteral("there is no transition %1").arg(quoted(title))};
-    return *found;
+    return *found.front();
 }
 
 } // namespace condtree::workbench

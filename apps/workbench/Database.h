@@ -14,7 +14,8 @@ namespace condtree::workbench {
 /// and why, in the words of the data-access library.
 class Database {
 public:
-    /// Opens the database of a URL as a user; an empty name lets the library choose.
+    /// Opens the database of a URL, whose file must be there, as a user; an empty name lets the
+    /// library choose.
     [[nodiscard]] static Outcome<std::unique_ptr<Database>> open(const QString& url,
                                                                  const QString& user);
     /// Opens the sample database in the user's data folder, and makes it before where it is
@@ -52,7 +53,8 @@ private:
 /// A transition's name on the command line and in messages: WORKFLOW/NAME.
 [[nodiscard]] QString transitionTitle(const SpTransition& transition);
 
-/// The transition of a title; fails when there is none, or more than one.
+/// The transition of a title, as it is or as oneLine() writes it; fails when there is none, or more
+/// than one.
 [[nodiscard]] Outcome<SpTransition> findTransition(const std::vector<SpTransition>& transitions,
                                                    const QString& title);
 

@@ -17,12 +17,15 @@ bool isStandardStream(const QString& path)
     return path == QLatin1String("-");
 }
 
-Outcome<QByteArray> readAll(QIODevice& device, const QString& name, qint64 limit)
+Outcome<QByteArray> readAll(QFile& device, const QString& name, qint64 limit)
 {
     constexpr qint64 kBlock = 1024 * 1024;
     QByteArray content;
     for (;;) {
         const QByteArray block = device.read(kBlock);
+        if (device.error() != QFileDevice::NoError)
+            return Failure{
+                QStringLiteral("%1: cannot be read: %2").arg(name, device.errorString())};
         if (block.isEmpty())
             return content;
         content += block;
@@ -59,8 +62,12 @@ Outcome<QByteArray> readFile(const QString& path, qint64 limit)
         return readAll(input, QStringLiteral("standard input"), limit);
     }
     QFile file(path);
-    if (QFileInfo(path).isDir())
+    const QFileInfo info(path);
+    if (info.isDir())
         return Failure{QStringLiteral("%1: is a folder, not a file").arg(path)};
+    // Opening a pipe that nobody writes into would wait for ever.
+    if (info.exists() && !info.isFile())
+        return Failure{QStringLiteral("%1: is no regular file").arg(path)};
     if (!file.open(QIODevice::ReadOnly))
         return Failure{QStringLiteral("%1: cannot be read: %2").arg(path, file.errorString())};
     if (file.size() > limit)

@@ -1,8 +1,10 @@
 #include "Headless.h"
 
 #include "ConditionControl.h"
+#include "ConditionEditor.h"
 #include "Files.h"
 #include "MainWindow.h"
+#include "Messages.h"
 #include "TreeText.h"
 
 #include <QBuffer>
@@ -27,24 +29,29 @@ MaybeFailure printList(const std::vector<SpTransition>& transitions)
 {
     QByteArray lines;
     for (const SpTransition& transition : transitions)
-        lines += transitionTitle(transition).toUtf8() + '\n';
+        lines += oneLine(transitionTitle(transition)).toUtf8() + '\n';
     return writeFile(kStandardOutput, lines);
 }
 
-MaybeFailure importCondition(const Database& database, const SpTransition& transition,
-                             const QString& path)
+Outcome<ConditionRecords> readCondition(const QString& path)
 {
     const Outcome<QByteArray> json = readFile(path, kLargestJson);
     if (!json.hasValue())
         return json.failure();
-    const Outcome<ConditionRecords> records = conditionFromJson(json.value());
+    Outcome<ConditionRecords> records = conditionFromJson(json.value());
     if (!records.hasValue())
         return Failure{QStringLiteral("%1: %2").arg(path, records.failure().text)};
+    return records;
+}
+
+MaybeFailure importCondition(const Database& database, const SpTransition& transition,
+                             const QString& path, const ConditionRecords& records)
+{
     const Outcome<SpCondition> stored = database.load(transition);
     if (!stored.hasValue())
         return stored.failure();
     const Outcome<std::int64_t> version =
-        database.save(transition, records.value(), stored.value().version);
+        database.save(transition, records, stored.value().version);
     if (!version.hasValue())
         return Failure{QStringLiteral("%1: %2").arg(path, version.failure().text)};
     return std::nullopt;
@@ -57,9 +64,14 @@ MaybeFailure printCondition(const Database& database, const SpTransition& transi
         return condition.failure();
     const Services services = unattendedServices();
     ConditionControl control(database.manager(), nullptr, services);
+    const auto named = [&](const QString& failure) {
+        return Failure{QStringLiteral("%1: %2").arg(transitionTitle(transition), failure)};
+    };
+    if (const auto failure = control.prepare(condition.value().records))
+        return named(failure->text);
     const QStringList failures = control.setRecords(condition.value().records);
     if (!failures.isEmpty())
-        return Failure{QStringLiteral("%1: %2").arg(transitionTitle(transition), failures.first())};
+        return named(failures.first());
     const VarTreeCtrlNode* top = control.mpoGetNode(TVI_ROOT);
     return writeFile(kStandardOutput, treeText(*top, services.string).toUtf8());
 }
@@ -83,6 +95,9 @@ MaybeFailure drawWindow(const Database& database, const std::vector<SpTransition
     MainWindow window(database, transitions, unattendedServices());
     if (const auto failure = window.open(transition))
         return failure;
+    const QStringList& failures = window.editor().failures();
+    if (!failures.isEmpty())
+        return Failure{QStringLiteral("%1: %2").arg(transitionTitle(transition), failures.first())};
     window.show();
     QCoreApplication::processEvents();
     QBuffer png;
@@ -110,8 +125,44 @@ Outcome<SpTransition> chosenTransition(const Options& options,
     return transitions.front();
 }
 
+namespace {
+
+/// The tasks that write nothing into the database, on the transitions as they are now: an import
+/// has changed one.
+MaybeFailure runOutputs(const Options& options, const Database& database)
+{
+    const auto transitions = database.transitions();
+    if (!transitions.hasValue())
+        return transitions.failure();
+    const auto chosen = chosenTransition(options, transitions.value());
+    MaybeFailure failure;
+    if (options.list)
+        failure = printList(transitions.value());
+    if (failure || !options.needsTransition())
+        return failure;
+    if (!chosen.hasValue())
+        return chosen.failure();
+    if (options.print)
+        failure = printCondition(database, chosen.value());
+    if (!failure && !options.exportFile.isNull())
+        failure = exportCondition(database, chosen.value(), options.exportFile);
+    if (!failure && !options.screenshotFile.isNull())
+        failure = drawWindow(database, transitions.value(), chosen.value(), options.screenshotFile);
+    return failure;
+}
+
+} // namespace
+
 MaybeFailure runHeadless(const Options& options)
 {
+    // Before the database is opened, which may bring it up to date or make the sample.
+    ConditionRecords imported;
+    if (!options.importFile.isNull()) {
+        Outcome<ConditionRecords> records = readCondition(options.importFile);
+        if (!records.hasValue())
+            return records.failure();
+        imported = std::move(records).value();
+    }
     const auto database = openDatabase(options);
     if (!database.hasValue())
         return database.failure();
@@ -124,19 +175,12 @@ MaybeFailure runHeadless(const Options& options)
     const bool isNeeded = options.needsTransition() || !options.transition.isNull();
     if (isNeeded && !chosen.hasValue())
         return chosen.failure();
-
-    MaybeFailure failure;
-    if (options.list)
-        failure = printList(transitions.value());
-    if (!failure && !options.importFile.isNull())
-        failure = importCondition(opened, chosen.value(), options.importFile);
-    if (!failure && options.print)
-        failure = printCondition(opened, chosen.value());
-    if (!failure && !options.exportFile.isNull())
-        failure = exportCondition(opened, chosen.value(), options.exportFile);
-    if (!failure && !options.screenshotFile.isNull())
-        failure = drawWindow(opened, transitions.value(), chosen.value(), options.screenshotFile);
-    return failure;
+    if (!options.importFile.isNull()) {
+        if (const auto failure =
+                importCondition(opened, chosen.value(), options.importFile, imported))
+            return failure;
+    }
+    return runOutputs(options, opened);
 }
 
 } // namespace condtree::workbench

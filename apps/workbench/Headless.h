@@ -12,8 +12,9 @@ namespace condtree::workbench {
 [[nodiscard]] Outcome<SpTransition> chosenTransition(const Options& options,
                                                      const std::vector<SpTransition>& transitions);
 
-/// Does what the options ask for without a window, in the order list, import, print, export,
-/// screenshot, and stops at the first failure. Nobody is asked anything. A QApplication must exist.
+/// Does what the options ask for without a window, in the order import, list, print, export,
+/// screenshot, and stops at the first failure. A file to import is read before the database is
+/// touched. Nobody is asked anything. A QApplication must exist.
 [[nodiscard]] MaybeFailure runHeadless(const Options& options);
 
 } // namespace condtree::workbench

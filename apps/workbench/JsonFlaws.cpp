@@ -105,6 +105,22 @@ private:
 
 } // namespace
 
+std::optional<qsizetype> findTooManyValues(QByteArrayView json, qsizetype limit)
+{
+    qsizetype values = 1;
+    bool isText = false;
+    for (qsizetype i = 0; i < json.size(); ++i) {
+        const char c = json[i];
+        if (c == '"')
+            isText = !isText;
+        else if (isText && c == '\\')
+            ++i;
+        else if (!isText && (c == ',' || c == '[' || c == '{') && ++values > limit)
+            return i;
+    }
+    return std::nullopt;
+}
+
 std::optional<JsonFlaw> findJsonFlaw(QByteArrayView json)
 {
     return Scanner(json).run();

@@ -19,4 +19,8 @@ struct JsonFlaw {
 /// error.
 [[nodiscard]] std::optional<JsonFlaw> findJsonFlaw(QByteArrayView json);
 
+/// Where a text gets more than limit values (objects, lists and whatever stands in them); none when
+/// it does not. json may be any bytes.
+[[nodiscard]] std::optional<qsizetype> findTooManyValues(QByteArrayView json, qsizetype limit);
+
 } // namespace condtree::workbench

@@ -10,6 +10,7 @@
 #include <QCoreApplication>
 #include <QLabel>
 #include <QMenuBar>
+#include <QPointer>
 #include <QRegularExpression>
 #include <QSplitter>
 #include <QStatusBar>
@@ -72,6 +73,15 @@ MaybeFailure MainWindow::open(const SpTransition& transition)
     showState();
     return failure;
 }
+
+void MainWindow::openOrTell(const SpTransition& transition)
+{
+    if (const auto failure = open(transition))
+        tellFailure(this, failure->text);
+}
+
+// A dialog lets everything happen meanwhile, the end of the window included: behind each one it is
+// looked whether the window is still there.
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
@@ -158,16 +168,18 @@ void MainWindow::openChosen(int id)
     const auto& current = m_editor->transition();
     if (current && current->id == id)
         return;
+    const QPointer<MainWindow> alive(this);
     const bool isLeaving = mayLeave();
+    if (!alive)
+        return;
     const auto& transitions = m_list->transitions();
     const auto chosen = std::find_if(transitions.begin(), transitions.end(),
                                      [id](const SpTransition& t) { return t.id == id; });
-    if (isLeaving && chosen != transitions.end()) {
-        if (const auto failure = open(SpTransition(*chosen)))
-            tellFailure(this, failure->text);
-    }
+    if (isLeaving && chosen != transitions.end())
+        openOrTell(SpTransition(*chosen));
     // Also back to what is still open when it was not left.
-    showState();
+    if (alive)
+        showState();
 }
 
 bool MainWindow::mayLeave()
@@ -175,7 +187,10 @@ bool MainWindow::mayLeave()
     m_editor->control().commitEditor();
     if (!m_editor->isUnsaved())
         return true;
+    const QPointer<MainWindow> alive(this);
     const Leaving answer = askBeforeLeaving(this, transitionTitle(*m_editor->transition()));
+    if (!alive)
+        return false;
     return answer == Leaving::Discard || (answer == Leaving::Save && trySave());
 }
 
@@ -185,9 +200,11 @@ bool MainWindow::trySave()
         tellFailure(this, failure->text, kept());
         return false;
     }
+    const QPointer<MainWindow> alive(this);
     refresh();
-    statusBar()->showMessage(tr("Saved."), kStatusTime);
-    return true;
+    if (alive)
+        statusBar()->showMessage(tr("Saved."), kStatusTime);
+    return !alive.isNull();
 }
 
 void MainWindow::save()
@@ -203,20 +220,25 @@ void MainWindow::revert()
 {
     m_editor->control().commitEditor();
     const SpTransition transition = *m_editor->transition();
+    const QPointer<MainWindow> alive(this);
     if (m_editor->isUnsaved() && !askBeforeReverting(this, transitionTitle(transition)))
+        return;
+    if (!alive)
         return;
     if (const auto failure = open(transition)) {
         tellFailure(this, failure->text);
         return;
     }
     refresh();
-    statusBar()->showMessage(tr("Read from the database again."), kStatusTime);
+    if (alive)
+        statusBar()->showMessage(tr("Read from the database again."), kStatusTime);
 }
 
 void MainWindow::importFile()
 {
+    const QPointer<MainWindow> alive(this);
     const QString path = askFileToImport(this);
-    if (path.isEmpty() || !mayLeave())
+    if (!alive || path.isEmpty() || !mayLeave())
         return;
     const Outcome<QByteArray> json = readFile(path, kLargestJson);
     if (!json.hasValue()) {
@@ -237,8 +259,9 @@ void MainWindow::exportFile()
         tellFailure(this, json.failure().text);
         return;
     }
+    const QPointer<MainWindow> alive(this);
     const QString path = askFileToExport(this, fileNameFor(*m_editor->transition()));
-    if (path.isEmpty())
+    if (!alive || path.isEmpty())
         return;
     if (const auto failure = writeFile(path, json.value()))
         tellFailure(this, failure->text);

@@ -24,6 +24,8 @@ public:
 
     /// Opens a transition without asking; on failure the one that was open stays.
     [[nodiscard]] MaybeFailure open(const SpTransition& transition);
+    /// The same; a failure is told to the user.
+    void openOrTell(const SpTransition& transition);
     [[nodiscard]] ConditionEditor& editor() const { return *m_editor; }
     [[nodiscard]] TransitionList& list() const { return *m_list; }
 

@@ -1,5 +1,7 @@
 #include "Messages.h"
 
+#include <QRegularExpression>
+
 namespace condtree::workbench {
 
 namespace {
@@ -41,7 +43,10 @@ QString quoted(const QString& text)
 
 QByteArray errorLine(const QString& text)
 {
-    return "condtree-workbench: " + oneLine(text).toUtf8() + '\n';
+    // Sentences of libraries come on lines of their own.
+    const QRegularExpression breaks(QStringLiteral("\\s*[\\r\\n]\\s*"));
+    const QString joined = QString(text).replace(breaks, QStringLiteral(" ")).trimmed();
+    return "condtree-workbench: " + oneLine(joined).toUtf8() + '\n';
 }
 
 } // namespace condtree::workbench

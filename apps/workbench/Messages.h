@@ -11,7 +11,8 @@ namespace condtree::workbench {
 /// A foreign text in double quotes for a message, on one line and cut when it is long.
 [[nodiscard]] QString quoted(const QString& text);
 
-/// The line on which the program tells an error, with its final newline.
+/// The line on which the program tells an error, with its final newline. The lines of the text are
+/// joined by blanks.
 [[nodiscard]] QByteArray errorLine(const QString& text);
 
 } // namespace condtree::workbench

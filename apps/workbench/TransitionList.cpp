@@ -57,9 +57,11 @@ void TransitionList::setTransitions(const std::vector<SpTransition>& transitions
             : std::optional<LONG>(selected.first()->data(NameColumn, kIdRole).toInt());
     const int scrolled = verticalScrollBar()->value();
     m_transitions = transitions;
+    m_places.clear();
     clear();
     QTreeWidgetItem* workflow = nullptr;
-    for (const SpTransition& transition : m_transitions) {
+    for (std::size_t i = 0; i < m_transitions.size(); ++i) {
+        const SpTransition& transition = m_transitions[i];
         if (workflow == nullptr || workflow->text(NameColumn) != transition.workflow.str()) {
             workflow = new QTreeWidgetItem(this, {transition.workflow.str()});
             workflow->setFlags(Qt::ItemIsEnabled);
@@ -68,7 +70,10 @@ void TransitionList::setTransitions(const std::vector<SpTransition>& transitions
             bold.setBold(true);
             workflow->setFont(NameColumn, bold);
         }
-        fillItem(*new QTreeWidgetItem(workflow), transition);
+        auto* item = new QTreeWidgetItem(workflow);
+        fillItem(*item, transition);
+        if (!m_places.contains(transition.id))
+            m_places.insert(transition.id, {item, i});
     }
     expandAll();
     select(chosen);
@@ -89,31 +94,27 @@ void TransitionList::select(std::optional<LONG> id)
 
 void TransitionList::setUnsaved(std::optional<LONG> id)
 {
-    m_unsaved = id;
-    for (const SpTransition& transition : m_transitions) {
-        if (QTreeWidgetItem* item = itemOf(transition.id))
-            fillItem(*item, transition);
-    }
+    const std::optional<LONG> before = std::exchange(m_unsaved, id);
+    if (before == id)
+        return;
+    refill(before);
+    refill(id);
 }
 
 QTreeWidgetItem* TransitionList::itemOf(LONG id) const
 {
-    for (int i = 0; i < topLevelItemCount(); ++i) {
-        for (int j = 0; j < topLevelItem(i)->childCount(); ++j) {
-            QTreeWidgetItem* item = topLevelItem(i)->child(j);
-            if (item->data(NameColumn, kIdRole).toInt() == id)
-                return item;
-        }
-    }
-    return nullptr;
+    const auto place = m_places.constFind(id);
+    return place == m_places.cend() ? nullptr : place->item;
 }
 
 void TransitionList::changeEvent(QEvent* event)
 {
     QTreeWidget::changeEvent(event);
     // The muted colour of the empty mark is the palette's.
-    if (event->type() == QEvent::PaletteChange)
-        setUnsaved(m_unsaved);
+    if (event->type() == QEvent::PaletteChange) {
+        for (const Place& place : std::as_const(m_places))
+            fillItem(*place.item, m_transitions[place.index]);
+    }
 }
 
 void TransitionList::tellSelection()
@@ -121,6 +122,13 @@ void TransitionList::tellSelection()
     const QList<QTreeWidgetItem*> selected = selectedItems();
     if (!selected.isEmpty())
         Q_EMIT transitionChosen(selected.first()->data(NameColumn, kIdRole).toInt());
+}
+
+void TransitionList::refill(std::optional<LONG> id)
+{
+    const auto place = id ? m_places.constFind(*id) : m_places.cend();
+    if (place != m_places.cend())
+        fillItem(*place->item, m_transitions[place->index]);
 }
 
 void TransitionList::fillItem(QTreeWidgetItem& item, const SpTransition& transition) const

@@ -2,6 +2,7 @@
 
 #include <condtree/storedprocs/SpTransitions.h>
 
+#include <QHash>
 #include <QTreeWidget>
 
 #include <optional>
@@ -36,9 +37,16 @@ protected:
 
 private:
     void tellSelection();
+    void refill(std::optional<LONG> id);
     void fillItem(QTreeWidgetItem& item, const SpTransition& transition) const;
 
     std::vector<SpTransition> m_transitions;
+    /// Where a transition is, by its id.
+    struct Place {
+        QTreeWidgetItem* item;
+        std::size_t index;
+    };
+    QHash<LONG, Place> m_places;
     std::optional<LONG> m_unsaved;
 };
 

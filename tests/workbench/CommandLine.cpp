@@ -33,6 +33,17 @@ TEST_F(CommandLine, TheListHasATransitionALine)
                                       "Quality Record/Start Investigation\n");
 }
 
+TEST_F(CommandLine, ANameWithControlCharactersStaysOnItsLineAndIsFoundAsItIsListed)
+{
+    sql(QStringLiteral("UPDATE transitions SET name = 'With' || char(10) || 'draw' "
+                       "WHERE name = 'Withdraw'"));
+    const std::string listed = outputOf(run({kList}));
+    EXPECT_EQ(std::count(listed.begin(), listed.end(), '\n'), 12);
+    EXPECT_NE(listed.find("\nDocument Approval/With\\u000adraw\n"), std::string::npos) << listed;
+    for (const char* title : {"Document Approval/With\\u000adraw", "Document Approval/With\ndraw"})
+        EXPECT_EQ(outputOf(runOn(title, {kPrint})), "<Click here to add a condition>\n") << title;
+}
+
 TEST_F(CommandLine, TheTreeIsPrintedARowALine)
 {
     EXPECT_EQ(outputOf(runOn("Document Approval/Submit for Review", {kPrint})),
@@ -211,9 +222,26 @@ TEST_F(CommandLine, TheWindowIsDrawnToAPicture)
     ASSERT_FALSE(picture.isNull());
     EXPECT_GT(picture.width(), 600);
     EXPECT_GT(picture.height(), 300);
+    const QString other = m_database.file("other.png");
+    outputOf(runOn("Document Approval/Release", {kScreenshot, other}));
+    EXPECT_EQ(QImage(other, "PNG"), picture);
+    outputOf(runOn("Document Approval/Withdraw", {kScreenshot, other}));
+    EXPECT_NE(QImage(other, "PNG"), picture);
     outputOf(runPlain({QStringLiteral("--db"), m_database.url(), kScreenshot, file}, {},
                       {{QStringLiteral("QT_SCALE_FACTOR"), QStringLiteral("2")}}));
     EXPECT_EQ(QImage(file, "PNG").width(), 2 * picture.width());
+}
+
+TEST_F(CommandLine, APictureBehindAnImportShowsTheTransitionAsItIsNow)
+{
+    const Finished exported = runOn("Engineering Change/Evaluate", {kExport, kStream});
+    const QString title = QStringLiteral("Document Approval/Withdraw");
+    const QString both = m_database.file("both.png");
+    const QString later = m_database.file("later.png");
+    outputOf(runOn(qUtf8Printable(title), {kImport, kStream, kScreenshot, both}, exported.output));
+    // The same, but for the import: only the time of the change could differ, and it stands still.
+    outputOf(runOn(qUtf8Printable(title), {kScreenshot, later}));
+    EXPECT_EQ(QImage(both, "PNG"), QImage(later, "PNG"));
 }
 
 TEST_F(CommandLine, WithoutADatabaseTheSampleIsMadeOnceInTheUsersFolder)

@@ -89,10 +89,33 @@ TEST_F(ConditionControls, AFailureWhileLoadingIsToldOnceAndShownToNobody)
     EXPECT_EQ(control.records().value(), (ConditionRecords{user("7"), user("8"), user("9")}));
 }
 
+TEST_F(ConditionControls, NamesAreTriedOnceForAllRows)
+{
+    m_library->getUsers.results = {E_FAIL};
+    ConditionControl control(m_library.get(), nullptr, services());
+    const ConditionRecords records{user("7"), user("8"), user("9")};
+    const auto failure = control.prepare(records);
+    ASSERT_TRUE(failure.has_value());
+    EXPECT_FALSE(failure->text.isEmpty());
+    EXPECT_TRUE(m_shown.isEmpty());
+    EXPECT_EQ(control.model()->rowCount(), 0);
+    // The library has recovered.
+    EXPECT_FALSE(control.prepare(records).has_value());
+    EXPECT_TRUE(control.setRecords(records).isEmpty());
+}
+
+TEST_F(ConditionControls, NamesThatNoRowShowsAreNotLoaded)
+{
+    m_library->getUsers.results = {E_FAIL};
+    ConditionControl control(m_library.get(), nullptr, services());
+    EXPECT_FALSE(control.prepare({variable("a", "1")}).has_value());
+    EXPECT_TRUE(control.prepare({user("7")}).has_value());
+}
+
 TEST_F(ConditionControls, RecordsWithUnknownTypesAreNotGivenOut)
 {
     m_library->variables = {{1, VarText, QStringLiteral("Author")}};
-    m_library->getVariables.results = {E_FAIL, E_FAIL};
+    m_library->getVariables.results = {E_FAIL};
     ConditionControl control(m_library.get(), nullptr, services());
     EXPECT_TRUE(control.setRecords({variable("Author", "a"), variable("Author", "b")}).isEmpty());
     const auto refused = control.records();

@@ -63,7 +63,7 @@ TEST(ConditionJson, OnlyQuotesBackslashesAndControlCharactersAreEscaped)
 {
     const QString value = QStringLiteral("\"\\/\b\f\n\r\t\x01\x1f\x7fü顧\u2028\U0001F600");
     EXPECT_NE(written({record(3, 2, {}, {}, value, 1, 100)})
-                  .find("\"value\":\"\\\"\\\\/\\u0008\\u000c\\n\\r\\t\\u0001\\u001f\x7fü顧\u2028"
+                  .find("\"value\":\"\\\"\\\\/\\b\\f\\n\\r\\t\\u0001\\u001f\x7fü顧\u2028"
                         "\U0001F600\""),
               std::string::npos);
 }
@@ -370,6 +370,32 @@ TEST(ConditionJson, TextsThatNoDatabaseCarriesAreRefusedByTheirPlace)
          "records[0].name: the text holds the unpaired surrogate U+DC00"},
         {"a null", fileWith("\"e\"", "\"a\\u0000\""), "records[0].extra: the text holds U+0000"},
     });
+}
+
+TEST(ConditionJson, TheWriterRefusesWhatCouldNotBeReadAgain)
+{
+    const SpConditionRecord large{3, 2, {}, {}, QString(16'000'000, QLatin1Char('x')), 1, 100};
+    EXPECT_TRUE(conditionToJson(ConditionRecords(4, large)).hasValue());
+    EXPECT_EQ(
+        conditionToJson(ConditionRecords(5, large)).failure().text,
+        QStringLiteral("the condition takes more than the 67108864 bytes that a file may have"));
+}
+
+TEST(ConditionJson, ControlCharactersAreWrittenShort)
+{
+    const SpConditionRecord record{3, 2, u"\b\f\n\r\t\u0001", {}, {}, 1, 100};
+    EXPECT_TRUE(conditionToJson({record}).value().contains("\"\\b\\f\\n\\r\\t\\u0001\""));
+    EXPECT_EQ(conditionFromJson(conditionToJson({record}).value()).value(),
+              ConditionRecords{record});
+}
+
+TEST(ConditionJson, MoreValuesThanMemoryIsMeantForAreRefusedByTheirPlace)
+{
+    EXPECT_EQ(conditionFromJson("[\n" + QByteArray(4'000'000, ',')).failure().text,
+              QStringLiteral("more than 4000000 values (byte 4000000, line 2)"));
+    // Signs within texts are no values.
+    EXPECT_EQ(conditionFromJson("[\"\\\"" + QByteArray(4'000'000, ',') + "\"]").failure().text,
+              QStringLiteral("an object is expected, not a list"));
 }
 
 } // namespace

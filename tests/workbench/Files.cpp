@@ -58,10 +58,20 @@ TEST_F(Files, WhatCannotBeReadIsNamed)
               (m_folder.path() + QStringLiteral(": is a folder, not a file")).toStdString());
 }
 
-TEST_F(Files, AStreamWithoutAnEndIsGivenUpAtTheLimit)
+TEST_F(Files, OnlyRegularFilesAreRead)
 {
-    EXPECT_EQ(failureOf(QStringLiteral("/dev/zero"), 1000),
-              "/dev/zero: more than the limit of 1000 bytes");
+    EXPECT_EQ(failureOf(QStringLiteral("/dev/zero"), 1000), "/dev/zero: is no regular file");
+    // Nobody writes into it: opening it would wait.
+    const QString pipe = path("pipe");
+    ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    EXPECT_EQ(failureOf(pipe, 1000), (pipe + QStringLiteral(": is no regular file")).toStdString());
+}
+
+TEST_F(Files, AnErrorWhileReadingIsNoEnd)
+{
+    // A regular file, whose first page is never there.
+    EXPECT_EQ(failureOf(QStringLiteral("/proc/self/mem"), 1000),
+              "/proc/self/mem: cannot be read: Input/output error");
 }
 
 TEST_F(Files, AFileIsReplacedAsAWhole)

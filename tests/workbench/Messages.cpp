@@ -42,8 +42,9 @@ TEST(Messages, AQuoteIsCutWhenItIsLong)
 
 TEST(Messages, AnErrorIsOneLineThatNamesTheProgram)
 {
-    EXPECT_EQ(errorLine(QStringLiteral("a\nb: ü")),
-              QByteArray("condtree-workbench: a\\u000ab: ü\n"));
+    EXPECT_EQ(errorLine(QStringLiteral("a \r\n\nb: ü\n")),
+              QByteArray("condtree-workbench: a b: ü\n"));
+    EXPECT_EQ(errorLine(QStringLiteral("a\tb")), QByteArray("condtree-workbench: a\\u0009b\n"));
 }
 
 } // namespace

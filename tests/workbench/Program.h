@@ -5,6 +5,8 @@
 #include <QFile>
 #include <QProcess>
 #include <QProcessEnvironment>
+#include <QSqlDatabase>
+#include <QSqlQuery>
 
 namespace condtree::test {
 
@@ -25,10 +27,15 @@ protected:
     {
         QProcess process;
         QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
-        for (const char* name :
-             {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "XDG_RUNTIME_DIR"})
+        for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "XDG_RUNTIME_DIR",
+                                 "QT_LOGGING_RULES", "QT_SCALE_FACTOR"})
             variables.remove(QLatin1String(name));
+        variables.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+        variables.insert(QStringLiteral("HOME"), m_database.file("home"));
         variables.insert(QStringLiteral("XDG_DATA_HOME"), m_database.file("data"));
+        variables.insert(QStringLiteral("XDG_CONFIG_HOME"), m_database.file("config"));
+        variables.insert(QStringLiteral("XDG_CONFIG_DIRS"), m_database.file("config-dirs"));
+        variables.insert(QStringLiteral("CONDTREE_REGISTRY_DIR"), m_database.file("registry"));
         for (const auto& [name, value] : environment)
             variables.insert(name, value);
         process.setProcessEnvironment(variables);
@@ -72,6 +79,19 @@ protected:
         EXPECT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(content);
         return file.fileName();
+    }
+
+    /// Runs a statement past the library.
+    void sql(const QString& statement) const
+    {
+        const QString name = QStringLiteral("program-test");
+        {
+            QSqlDatabase past = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name);
+            past.setDatabaseName(m_database.file("sample.db"));
+            EXPECT_TRUE(past.open());
+            EXPECT_TRUE(QSqlQuery(past).exec(statement)) << statement.toStdString();
+        }
+        QSqlDatabase::removeDatabase(name);
     }
 
     SampleDatabase m_database;

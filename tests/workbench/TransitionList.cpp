@@ -132,4 +132,19 @@ TEST(TransitionList, NamesAreShownAsTheyAreWritten)
     EXPECT_EQ(list.itemOf(1)->toolTip(0), QStringLiteral("&lt;i&gt;&amp;N&lt;/i&gt;"));
 }
 
+TEST(TransitionList, AMarkRedrawsItsOwnRowsOnly)
+{
+    TransitionList list;
+    list.setTransitions(kTransitions);
+    list.setUnsaved(11);
+    QSet<QTreeWidgetItem*> changed;
+    QObject::connect(&list, &QTreeWidget::itemChanged,
+                     [&](QTreeWidgetItem* item) { changed.insert(item); });
+    list.setUnsaved(7);
+    EXPECT_EQ(changed, (QSet<QTreeWidgetItem*>{list.itemOf(11), list.itemOf(7)}));
+    changed.clear();
+    list.setUnsaved(7);
+    EXPECT_TRUE(changed.isEmpty());
+}
+
 } // namespace

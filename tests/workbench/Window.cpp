@@ -13,8 +13,10 @@ TEST_F(Window, ATransitionIsOpenedByAClick)
     click("Document Approval/Approve");
     EXPECT_EQ(label("title"), QStringLiteral("Approve"));
     EXPECT_EQ(label("states"), QStringLiteral("Document Approval: In Review \u2192 Approved"));
-    EXPECT_TRUE(label("lastChange").startsWith(QStringLiteral("Last changed by fhoffmann, ")));
-    EXPECT_TRUE(label("lastChange").contains(QStringLiteral("2024")));
+    const QDateTime changed = find("Document Approval/Approve").changedAt.toLocalTime();
+    EXPECT_EQ(changed.date().year(), 2024);
+    EXPECT_EQ(label("lastChange"), QStringLiteral("Last changed by fhoffmann, ")
+                                       + QLocale().toString(changed, QLocale::ShortFormat));
     EXPECT_EQ(label("warning"), QStringLiteral("(hidden)"));
     EXPECT_EQ(m_window->windowTitle(), QStringLiteral("Document Approval/Approve[*]"));
     EXPECT_EQ(editor().control().model()->rowCount(), 6);
@@ -100,13 +102,40 @@ TEST_F(Window, AFileDialogThatIsCancelledDoesNothing)
     expectUnsaved(false);
 }
 
+TEST_F(Window, AFirstTransitionThatCannotBeReadIsToldInTheWindow)
+{
+    MainWindow fresh(*m_database, list().transitions(), realServices());
+    fresh.show();
+    SpTransition gone = find(kFirst);
+    gone.id = 4711;
+    const Answers answers({press(QMessageBox::Ok, "cannot read the condition of")});
+    fresh.openOrTell(gone);
+    EXPECT_TRUE(fresh.isVisible());
+    EXPECT_FALSE(fresh.editor().transition().has_value());
+}
+
+TEST_F(Window, AWindowThatGoesWhileItAsksIsLeftAlone)
+{
+    edit("mine");
+    const Answers answers({[this](QDialog&) { m_window.reset(); }});
+    QAction* revert = m_window->findChild<QAction*>(QStringLiteral("revert"));
+    revert->trigger();
+    EXPECT_EQ(m_window, nullptr);
+}
+
+TEST(Deadline, ADialogThatNobodyAnswersIsRejected)
+{
+    const Deadline deadline(0);
+    QMessageBox box;
+    EXPECT_EQ(box.exec(), QDialog::Rejected);
+    EXPECT_EQ(deadline.rejected(), 1);
+}
+
 TEST(EmptyWindow, ADatabaseWithoutTransitionsIsAnEmptyWindow)
 {
-    const QTemporaryDir folder;
-    const auto database =
-        workbench::Database::open(SpSqliteUrl(folder.filePath(QStringLiteral("new.db"))), {});
-    ASSERT_TRUE(database.hasValue());
-    MainWindow window(*database.value(), {}, realServices());
+    const SampleDatabase sample;
+    const auto database = sample.open();
+    MainWindow window(*database, {}, realServices());
     window.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
     EXPECT_EQ(window.findChild<QLabel*>(QStringLiteral("title"))->text(),

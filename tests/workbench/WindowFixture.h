@@ -73,6 +73,37 @@ private:
     QTimer m_timer;
 };
 
+/// Rejects every dialog that is still open after a time, and fails the test, instead of waiting for
+/// an answer for ever.
+class Deadline : public QObject {
+public:
+    explicit Deadline(int patience)
+        : m_patience(patience)
+    {
+        constexpr int kOften = 250; // ms
+        m_timer.setInterval(kOften);
+        connect(&m_timer, &QTimer::timeout, this, &Deadline::look);
+        m_timer.start();
+        m_elapsed.start();
+    }
+    [[nodiscard]] int rejected() const { return m_rejected; }
+
+private:
+    void look()
+    {
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (dialog == nullptr || m_elapsed.elapsed() < m_patience)
+            return;
+        ++m_rejected;
+        dialog->reject();
+    }
+
+    int m_patience; // ms
+    int m_rejected = 0;
+    QElapsedTimer m_elapsed;
+    QTimer m_timer;
+};
+
 /// Clicks a button of a message box, whose text must contain a part.
 inline Answers::Answer press(QMessageBox::StandardButton button, const char* part)
 {
@@ -115,6 +146,8 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowActive(m_window.get()));
         click("Document Approval/Submit for Review");
     }
+
+    void TearDown() override { EXPECT_EQ(m_deadline.rejected(), 0) << "a dialog stayed open"; }
 
     ConditionEditor& editor() { return m_window->editor(); }
     TransitionList& list() { return m_window->list(); }
@@ -221,6 +254,7 @@ protected:
         QSqlDatabase::removeDatabase(name);
     }
 
+    Deadline m_deadline{60'000};
     SampleDatabase m_sample;
     std::unique_ptr<workbench::Database> m_database;
     std::unique_ptr<MainWindow> m_window;

@@ -201,17 +201,20 @@ TEST_F(WindowSaving, AFailedSaveKeepsTheWorkAndCanBeTriedAgain)
     EXPECT_EQ(storedValue(kFirst), QStringLiteral("mine"));
 }
 
-TEST_F(WindowSaving, NamesThatCannotBeReadAreToldAboveTheRowsAndNothingIsLost)
+TEST_F(WindowSaving, ATransitionWhoseNamesCannotBeReadIsNotOpenedAndTheOpenOneStays)
 {
     const ExpectWarning expected(QStringLiteral("no such table"));
     sql({QStringLiteral("ALTER TABLE users RENAME TO away")});
-    const Answers answers({});
-    click("Document Approval/Request Changes");
-    EXPECT_EQ(shownTransition(), QStringLiteral("Document Approval/Request Changes"));
-    EXPECT_NE(label("warning"), QStringLiteral("(hidden)"));
+    {
+        const Answers answers({press(QMessageBox::Ok, "")});
+        click("Document Approval/Request Changes");
+    }
+    EXPECT_EQ(shownTransition(), QString::fromUtf8(kFirst));
+    EXPECT_EQ(expected.count(), 1);
     expectUnsaved(false);
     sql({QStringLiteral("ALTER TABLE away RENAME TO users")});
-    trigger("revert");
+    click("Document Approval/Request Changes");
+    EXPECT_EQ(shownTransition(), QStringLiteral("Document Approval/Request Changes"));
     EXPECT_EQ(label("warning"), QStringLiteral("(hidden)"));
     expectUnsaved(false);
 }
@@ -223,13 +226,40 @@ TEST_F(WindowSaving, RecordsThatSavingWouldDropAreToldBeforehand)
         "UPDATE condition_records SET cond_type = 99, operator = -1 WHERE position = 2 AND "
         "transition_id = (SELECT id FROM transitions WHERE name = 'Evaluate')")});
     click("Engineering Change/Evaluate");
-    EXPECT_EQ(label("warning"), QStringLiteral("(hidden)"));
+    EXPECT_EQ(label("warning"),
+              QStringLiteral("Saving will store something else than was read: 1 of the 4 records, "
+                             "row 3."));
     sql({QStringLiteral("UPDATE condition_records SET row_kind = 3 WHERE position = 2 AND "
                         "transition_id = (SELECT id FROM transitions WHERE name = 'Evaluate')")});
     trigger("revert");
     EXPECT_EQ(label("warning"),
-              QStringLiteral("Saving will drop 2 of the 4 records that were read."));
+              QStringLiteral("Saving will drop 2 of the 4 records that were read.\n"
+                             "Saving will store something else than was read: 2 of the 4 records, "
+                             "rows 3 and 4."));
     expectUnsaved(false);
+}
+
+TEST_F(WindowSaving, RowsThatSavingWouldChangeAreToldBeforehand)
+{
+    const QString file =
+        fileOf("odd.json", R"({"format":"condtree-condition","version":1,"records":[
+{"rowKind":3,"condType":2,"name":"Author","extra":"","value":"v","argType":1,"operator":100},
+{"rowKind":3,"condType":99,"name":"x","extra":"","value":"v","argType":1,"operator":100},
+{"rowKind":2,"condType":0,"name":"mine","extra":"","value":"","argType":0,"operator":0},
+{"rowKind":3,"condType":8,"name":"","extra":"","value":"abc","argType":1,"operator":100},
+{"rowKind":77,"condType":2,"name":"Author","extra":"","value":"v","argType":1,"operator":100},
+{"rowKind":3,"condType":2,"name":"Approved","extra":"","value":"important","argType":4,"operator":127},
+{"rowKind":3,"condType":2,"name":"Nowhere","extra":"","value":"v","argType":9,"operator":100},
+{"rowKind":3,"condType":2,"name":"Author","extra":"","value":"!=v","argType":1,"operator":160}
+]}
+)");
+    const Answers answers({choose(file)});
+    trigger("import");
+    EXPECT_EQ(label("warning"),
+              QStringLiteral("Saving will store something else than was read: 6 of the 8 records, "
+                             "rows 2, 3, 4, 5, 6 and 1 more."));
+    trigger("save");
+    EXPECT_EQ(label("warning"), QStringLiteral("(hidden)"));
 }
 
 TEST_F(WindowSaving, RecordsOfAFileThatSavingWouldDropAreTold)
@@ -243,7 +273,9 @@ TEST_F(WindowSaving, RecordsOfAFileThatSavingWouldDropAreTold)
     const Answers answers({choose(file)});
     trigger("import");
     EXPECT_EQ(label("warning"),
-              QStringLiteral("Saving will drop 2 of the 2 records that were read."));
+              QStringLiteral("Saving will drop 2 of the 2 records that were read.\n"
+                             "Saving will store something else than was read: 2 of the 2 records, "
+                             "rows 1 and 2."));
     expectUnsaved(true);
 }
 
