@@ -30,7 +30,9 @@ bool isKnown(Transaction& transaction, LONG version)
 LONG schemaVersion(Transaction& transaction)
 {
     if (tableCount(transaction, QStringLiteral("schema_version")) > 0) {
-        Statement statement(transaction, u"SELECT version FROM schema_version WHERE id = 1");
+        Statement statement(
+            transaction,
+            u"SELECT version FROM schema_version WHERE id = 1 AND product = 'condtree'");
         const LONG version = statement.exec() && statement.next() ? statement.number(0) : 0;
         return transaction.isGood() && isKnown(transaction, version) ? version : 0;
     }

@@ -28,6 +28,24 @@ struct DeleteRecord {
     void operator()(Record* record) const { SpDelete(record); }
 };
 
+/// Moves the records of a list behind those of another; when the memory is exhausted, none of them.
+template <class Record>
+void moveAll(AutoLst<Lst<Record*>>& records, Lst<Record*>& target)
+{
+    LONG moved = 0;
+    try {
+        for (; !records.IsEmpty(); ++moved) {
+            POSITION head = records.GetHeadPosition();
+            target.AddTail(records.GetNext(head));
+            records.RemoveHead();
+        }
+    } catch (...) {
+        for (; moved > 0; --moved)
+            SpDelete(target.RemoveTail());
+        throw;
+    }
+}
+
 /// Appends a record for each row of a query: all of them, or none.
 template <class Record, class Fill>
 HRESULT appendAll(Database& database, const char16_t* sql, Lst<Record*>& target, Fill fill)
@@ -44,11 +62,8 @@ HRESULT appendAll(Database& database, const char16_t* sql, Lst<Record*>& target,
             (void)record.release(); // the list owns it now
         }
         const HRESULT hr = transaction.commit();
-        while (SUCCEEDED(hr) && !records.IsEmpty()) {
-            POSITION head = records.GetHeadPosition();
-            target.AddTail(records.GetNext(head));
-            records.RemoveHead();
-        }
+        if (SUCCEEDED(hr))
+            moveAll(records, target);
         return hr;
     });
 }

@@ -11,8 +11,9 @@ namespace {
 constexpr const char16_t* kReferenceData[] = {
     uR"(CREATE TABLE schema_version (
         id INTEGER PRIMARY KEY CHECK (id = 1),
+        product TEXT NOT NULL CHECK (product = 'condtree'),
         version INTEGER NOT NULL)%OPTIONS%)",
-    u"INSERT INTO schema_version (id, version) VALUES (1, 0)",
+    u"INSERT INTO schema_version (id, product, version) VALUES (1, 'condtree', 0)",
     uR"(CREATE TABLE card_variables (
         id INTEGER PRIMARY KEY CHECK (id BETWEEN 1 AND 2147483647),
         name TEXT NOT NULL COLLATE NOCASE UNIQUE
@@ -25,7 +26,7 @@ constexpr const char16_t* kReferenceData[] = {
     uR"(CREATE TABLE states (
         id INTEGER PRIMARY KEY CHECK (id BETWEEN 1 AND 2147483647),
         workflow_id INTEGER NOT NULL REFERENCES workflows (id) ON DELETE CASCADE,
-        name TEXT NOT NULL CHECK (length(name) > 0),
+        name TEXT NOT NULL COLLATE NOCASE CHECK (length(name) > 0),
         second_name TEXT NOT NULL DEFAULT '',
         flags INTEGER NOT NULL DEFAULT 0 CHECK (flags BETWEEN 0 AND 4294967295),
         UNIQUE (workflow_id, name),
@@ -68,7 +69,7 @@ constexpr const char16_t* kTransitions[] = {
     uR"(CREATE TABLE transitions (
         id INTEGER PRIMARY KEY CHECK (id BETWEEN 1 AND 2147483647),
         workflow_id INTEGER NOT NULL REFERENCES workflows (id) ON DELETE CASCADE,
-        name TEXT NOT NULL CHECK (length(name) > 0),
+        name TEXT NOT NULL COLLATE NOCASE CHECK (length(name) > 0),
         from_state_id INTEGER NOT NULL,
         to_state_id INTEGER NOT NULL,
         version INTEGER NOT NULL DEFAULT 1 CHECK (version >= 1),

@@ -25,6 +25,7 @@ constexpr KnownCode kExtendedCodes[] = {
 
 // The primary result codes; what is not here is E_FAIL.
 constexpr KnownCode kPrimaryCodes[] = {
+    {1, SP_E_CANNOT_OPEN},        // ERROR: a table or column is not there
     {3, SP_E_PERMISSION},         // PERM
     {5, SP_E_LOCKED},             // BUSY: another connection
     {6, SP_E_LOCKED},             // LOCKED: another statement

@@ -80,10 +80,11 @@ CString changedMessage(const SpSaveReport& report)
         report.changedBy.length() > 0 ? report.changedBy.str() : QStringLiteral("somebody else");
     const CString when =
         report.changedAt.isValid()
-            ? report.changedAt.toString(QStringLiteral(" 'on' yyyy-MM-dd 'at' HH:mm:ss 'UTC'"))
+            ? report.changedAt.toString(QStringLiteral(" 'on' yyyy-MM-dd 'at' HH:mm:ss 'UTC',"))
             : QString();
     // In one go: a login may hold a placeholder of its own.
-    return QStringLiteral("The condition was changed by %1%2 and has not been saved.")
+    return QStringLiteral(
+               "The condition was saved by %1%2 after it was loaded; your changes were not saved.")
         .arg(who, when);
 }
 

@@ -2,9 +2,10 @@
 # With a folder's own flags, headers of other folders and of Qt modules that it does not link do not compile.
 source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 
-# The compiler's messages about one include with a folder's flags; its result is the compiler's.
+# The compiler's messages about one include with a folder's flags; its result is the compiler's. Preprocessing
+# tells: what is kept out is either not found or an #error.
 compile() {
-    printf '#include <%s>\nint main() {}\n' "$2" | LC_ALL=C "$CXX" "@$HOUSE/flags/$1.rsp" - 2>&1
+    printf '#include <%s>\n' "$2" | LC_ALL=C "$CXX" "@$HOUSE/flags/$1.rsp" -E -o /dev/null - 2>&1
 }
 
 must_compile() {

@@ -22,9 +22,9 @@ HRESULT resultOf(const TempDatabase& database)
 /// A database of version 1, which had no transitions, with some content. Typed by hand: what is out
 /// there does not change with the code.
 const QStringList kVersion1 = {
-    QStringLiteral(
-        "CREATE TABLE schema_version (id INTEGER PRIMARY KEY, version INTEGER NOT NULL)"),
-    QStringLiteral("INSERT INTO schema_version VALUES (1, 1)"),
+    QStringLiteral("CREATE TABLE schema_version (id INTEGER PRIMARY KEY, product TEXT, version "
+                   "INTEGER NOT NULL)"),
+    QStringLiteral("INSERT INTO schema_version VALUES (1, 'condtree', 1)"),
     QStringLiteral("CREATE TABLE card_variables (id INTEGER PRIMARY KEY, name TEXT NOT NULL, "
                    "type INTEGER NOT NULL)"),
     QStringLiteral("INSERT INTO card_variables VALUES (1, 'Author', 1)"),
@@ -150,6 +150,45 @@ TEST(Migrations, RefuseAVersionThatNeverWas)
                                QStringLiteral("DELETE FROM schema_version")}) {
         database.run({sql});
         EXPECT_EQ(resultOf(database), static_cast<HRESULT>(0x80040206U)) << sql.toStdString();
+    }
+}
+
+TEST(Migrations, RefuseADatabaseOfAnotherProgramThatCountsVersionsToo)
+{
+    const QStringList tables{
+        QStringLiteral("CREATE TABLE schema_version (id INTEGER PRIMARY KEY, version INTEGER)"),
+        QStringLiteral("CREATE TABLE schema_version (id INTEGER PRIMARY KEY, product TEXT, "
+                       "version INTEGER)"),
+        QStringLiteral("CREATE TABLE schema_version (number INTEGER)")};
+    for (const QString& table : tables) {
+        const TempDatabase database;
+        database.run({table, QStringLiteral("CREATE TABLE recipes (name TEXT)")});
+        if (!table.contains(QStringLiteral("number")))
+            database.run(
+                {QStringLiteral("INSERT INTO schema_version (id, version) VALUES (1, 1)")});
+        const QByteArray before = database.bytes();
+        const ExpectWarning log(table.contains(QStringLiteral("product"))
+                                    ? QStringLiteral("schema version 0")
+                                    : QStringLiteral("no such column"));
+        EXPECT_EQ(resultOf(database), static_cast<HRESULT>(0x80040206U)) << table.toStdString();
+        EXPECT_EQ(database.bytes(), before) << table.toStdString();
+    }
+}
+
+TEST(Migrations, NamesThatDifferInTheCaseOfAsciiLettersAreTheSame)
+{
+    const TempDatabase database;
+    EXPECT_EQ(SpMakeSampleDatabase(database.url()), S_OK);
+    for (const QString& table : {QStringLiteral("card_variables"), QStringLiteral("workflows"),
+                                 QStringLiteral("states"), QStringLiteral("user_groups"),
+                                 QStringLiteral("document_types"), QStringLiteral("transitions")}) {
+        const QStringList before = database.rows(QStringLiteral("SELECT * FROM ") + table);
+        RawConnection raw(database.path());
+        EXPECT_FALSE(raw.run(QStringLiteral("UPDATE %1 SET name = (SELECT upper(name) FROM %1 "
+                                            "ORDER BY id LIMIT 1) WHERE id = 2")
+                                 .arg(table)))
+            << table.toStdString();
+        EXPECT_EQ(database.rows(QStringLiteral("SELECT * FROM ") + table), before);
     }
 }
 

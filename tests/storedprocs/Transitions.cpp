@@ -139,9 +139,9 @@ TEST_F(Transitions, WhoSavedInBetweenIsToldAndNothingIsWritten)
     EXPECT_EQ(report.changedBy.str(), QStringLiteral("éve %1 %2"));
     EXPECT_LT(qAbs(report.changedAt.secsTo(QDateTime::currentDateTimeUtc())), 300);
     EXPECT_EQ(report.message,
-              QStringLiteral("The condition was changed by éve %1 %2 on ")
+              QStringLiteral("The condition was saved by éve %1 %2 on ")
                   + report.changedAt.toString(QStringLiteral("yyyy-MM-dd 'at' HH:mm:ss"))
-                  + QStringLiteral(" UTC and has not been saved."));
+                  + QStringLiteral(" UTC, after it was loaded; your changes were not saved."));
 
     // Loaded again, it may be saved over.
     EXPECT_EQ(transitions().mhSaveCondition(11, kCondition, loaded(11).version, report), S_OK);
@@ -158,7 +158,8 @@ TEST_F(Transitions, ADeletedUserIsStillNamedAndAnUnknownOneIsSomebodyElse)
     SpSaveReport report;
     EXPECT_EQ(transitions().mhSaveCondition(12, kCondition, 1, report), SP_E_CHANGED);
     EXPECT_EQ(report.message,
-              QStringLiteral("The condition was changed by somebody else and has not been saved."));
+              QStringLiteral("The condition was saved by somebody else after it was loaded; "
+                             "your changes were not saved."));
     EXPECT_TRUE(report.changedAt.isNull());
     EXPECT_EQ(transitions().mhSaveCondition(11, kCondition, 9, report), SP_E_CHANGED);
     EXPECT_EQ(report.changedBy.str(), QStringLiteral("left"));
