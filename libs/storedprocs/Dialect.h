@@ -23,7 +23,8 @@ struct Dialect {
     const char16_t* beginRead;
     /// Takes the right to write at once, so that a transaction never finds out at its end.
     const char16_t* beginWrite;
-    /// One number: how many tables there are, with a name or (bound to null) with any name.
+    /// One number: how many tables and views there are, with a name or (bound to null) with any
+    /// name.
     const char16_t* countTables;
     /// One text: the server's version.
     const char16_t* serverVersion;

@@ -18,14 +18,15 @@ QVariant text(const char16_t* constant)
 /// Whether there is anything beyond what a new database has, its one user.
 bool hasContent(Transaction& transaction)
 {
-    Statement row(transaction,
-                  u"SELECT (SELECT count(*) FROM users "
-                  u"WHERE id <> 1 OR login <> 'admin' OR full_name <> 'Administrator') + "
-                  u"(SELECT count(*) FROM card_variables) + "
-                  u"(SELECT count(*) FROM workflows) + "
-                  u"(SELECT count(*) FROM user_groups) + "
-                  u"(SELECT count(*) FROM user_settings) + "
-                  u"(SELECT count(*) FROM document_types)");
+    Statement row(transaction, u"SELECT (SELECT count(*) FROM users "
+                               u"WHERE id <> 1 OR login COLLATE BINARY <> 'admin' "
+                               u"OR full_name <> 'Administrator') + "
+                               u"(SELECT count(*) <> 1 FROM users) + "
+                               u"(SELECT count(*) FROM card_variables) + "
+                               u"(SELECT count(*) FROM workflows) + "
+                               u"(SELECT count(*) FROM user_groups) + "
+                               u"(SELECT count(*) FROM user_settings) + "
+                               u"(SELECT count(*) FROM document_types)");
     return row.exec() && row.next() && row.bigNumber(0) > 0;
 }
 

@@ -88,7 +88,7 @@ constexpr Dialect kSqlite = {
     kOnOpen,
     u"BEGIN",
     u"BEGIN IMMEDIATE",
-    u"SELECT count(*) FROM sqlite_master WHERE type = 'table' AND name = coalesce(?, name)",
+    u"SELECT count(*) FROM sqlite_master WHERE name = coalesce(?, name)",
     u"SELECT sqlite_version()",
     tableOptions,
     // A text bound as UTF-16 loses a U+FEFF at its start, or has its bytes swapped by a U+FFFE

@@ -76,8 +76,8 @@ QDateTime timeOf(const CString& stored)
 
 CString changedMessage(const SpSaveReport& report)
 {
-    const CString who =
-        report.changedBy.length() > 0 ? report.changedBy.str() : QStringLiteral("somebody else");
+    const CString who = report.changedBy.length() > 0 ? report.changedBy.str().simplified()
+                                                      : QStringLiteral("somebody else");
     const CString when =
         report.changedAt.isValid()
             ? report.changedAt.toString(QStringLiteral(" 'on' yyyy-MM-dd 'at' HH:mm:ss 'UTC',"))

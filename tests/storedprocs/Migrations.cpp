@@ -7,8 +7,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QRegularExpression>
-
 namespace condtree::test {
 namespace {
 
@@ -173,6 +171,16 @@ TEST(Migrations, RefuseADatabaseOfAnotherProgramThatCountsVersionsToo)
         EXPECT_EQ(resultOf(database), static_cast<HRESULT>(0x80040206U)) << table.toStdString();
         EXPECT_EQ(database.bytes(), before) << table.toStdString();
     }
+}
+
+TEST(Migrations, RefuseADatabaseThatHoldsOnlyViews)
+{
+    const TempDatabase database;
+    database.run({QStringLiteral("CREATE VIEW recipes AS SELECT 1")});
+    const QByteArray before = database.bytes();
+    const ExpectWarning log(QStringLiteral("not ours"));
+    EXPECT_EQ(resultOf(database), static_cast<HRESULT>(0x80040206U));
+    EXPECT_EQ(database.bytes(), before);
 }
 
 TEST(Migrations, NamesThatDifferInTheCaseOfAsciiLettersAreTheSame)

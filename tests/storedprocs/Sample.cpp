@@ -199,12 +199,15 @@ TEST_F(Sample, NeverOverwrites)
 
 TEST(SampleBeside, AnyContentIsLeftAlone)
 {
-    for (const char* sql : {"INSERT INTO card_variables (name, type) VALUES ('mine', 1)",
-                            "INSERT INTO workflows (name) VALUES ('mine')",
-                            "INSERT INTO users (login) VALUES ('mine')",
-                            "INSERT INTO user_groups (name) VALUES ('mine')",
-                            "INSERT INTO document_types (name) VALUES ('mine')",
-                            "INSERT INTO user_settings VALUES (1, 24, '1')"}) {
+    for (const char* sql :
+         {"INSERT INTO card_variables (name, type) VALUES ('mine', 1)",
+          "INSERT INTO workflows (name) VALUES ('mine')",
+          "INSERT INTO users (login) VALUES ('mine')",
+          "INSERT INTO user_groups (name) VALUES ('mine')",
+          "INSERT INTO document_types (name) VALUES ('mine')",
+          "INSERT INTO user_settings VALUES (1, 24, '1')", "UPDATE users SET login = 'ADMIN'",
+          "UPDATE users SET full_name = 'The Boss'", "UPDATE users SET id = 2",
+          "DELETE FROM users"}) {
         const TempDatabase database;
         (void)database.connected();
         database.run({QString::fromLatin1(sql)});

@@ -164,6 +164,13 @@ TEST_F(Transitions, ADeletedUserIsStillNamedAndAnUnknownOneIsSomebodyElse)
     EXPECT_EQ(transitions().mhSaveCondition(11, kCondition, 9, report), SP_E_CHANGED);
     EXPECT_EQ(report.changedBy.str(), QStringLiteral("left"));
     EXPECT_EQ(report.version, 5);
+
+    database.run({QStringLiteral("UPDATE transitions SET changed_by = 'two' || char(10) || 'lines' "
+                                 "WHERE id = 11")});
+    EXPECT_EQ(transitions().mhSaveCondition(11, kCondition, 9, report), SP_E_CHANGED);
+    EXPECT_EQ(report.message,
+              QStringLiteral("The condition was saved by two lines after it was loaded; "
+                             "your changes were not saved."));
 }
 
 TEST_F(Transitions, TwoManagersOnOneDatabaseSeeEachOthersConditions)
