@@ -46,7 +46,7 @@ bool isLanguageName(const QString& name)
     });
 }
 
-QString findCatalogue(const QString& language, const QStringList& folders)
+QString findExactly(const QString& language, const QStringList& folders)
 {
     for (const QString& folder : folders) {
         QString path = QDir(folder).filePath(QLatin1String("condtree_%1.qm").arg(language));
@@ -54,6 +54,26 @@ QString findCatalogue(const QString& language, const QStringList& folders)
             return path;
     }
     return {};
+}
+
+/// The catalogue of a language, or else that of the language without its country or script.
+QString findCatalogue(const QString& language, const QStringList& folders)
+{
+    if (!isLanguageName(language))
+        return {};
+    QString name = language;
+    for (name.replace(u'-', u'_'); !name.isEmpty();
+         name.truncate(std::max<qsizetype>(0, name.lastIndexOf(u'_')))) {
+        if (QString path = findExactly(name, folders); !path.isEmpty())
+            return path;
+    }
+    return {};
+}
+
+bool isEnglish(const QString& language)
+{
+    return language.isEmpty() || language == u"C" || language.section(u'-', 0, 0) == u"en"
+           || language.section(u'_', 0, 0) == u"en";
 }
 
 } // namespace
@@ -73,13 +93,23 @@ QStringList languageFolders()
     return folders;
 }
 
+CString preferredLanguage(const QStringList& wanted, const QStringList& folders)
+{
+    for (const QString& language : wanted) {
+        if (isEnglish(language))
+            return QStringLiteral("en");
+        if (!findCatalogue(language, folders).isEmpty())
+            return language;
+    }
+    return wanted.isEmpty() ? QStringLiteral("en") : wanted.first();
+}
+
 bool loadLanguage(QCoreApplication& application, const CString& language,
                   const QStringList& folders)
 {
-    const QString name = language.isEmpty() ? QStringLiteral("en") : language;
     unloadLanguage(application);
-
-    const QString path = isLanguageName(name) ? findCatalogue(name, folders) : QString();
+    const QString name = isEnglish(language) ? QStringLiteral("en") : language;
+    const QString path = findCatalogue(name, folders);
     if (path.isEmpty()) {
         if (name == u"en")
             return true;

@@ -18,6 +18,13 @@ namespace condtree {
 /// need exist.
 [[nodiscard]] CONDTREE_EXPORT QStringList languageFolders();
 
+/// Which of several wanted languages to load, in order of preference and in either spelling
+/// ("de_AT", "de-AT"), as QLocale::uiLanguages lists them: the first that has a catalogue in one of
+/// the folders, or English. The first wanted one where there is a catalogue for none, so that
+/// loading it says what is missing; "en" for an empty list and for the locale "C".
+[[nodiscard]] CONDTREE_EXPORT CString
+preferredLanguage(const QStringList& wanted, const QStringList& folders = languageFolders());
+
 /// Makes a language the application's, in place of the one that was loaded so before: the catalogue
 /// in the first of folders that has one is installed as a translator that the application owns.
 /// Texts that were fetched before stay as they are. Language "en" needs no catalogue; an empty name

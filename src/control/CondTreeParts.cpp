@@ -12,7 +12,7 @@ bool isComplete(const Services& ports)
 {
     return ports.messageBox && ports.string && ports.localTime && ports.tickCount && ports.cursorPos
            && ports.systemMetric && ports.doubleClickTime && ports.bitsPerPixel && ports.registry
-           && ports.icons;
+           && ports.icons && ports.resultTexts;
 }
 
 template <class Port>
@@ -37,6 +37,7 @@ Services completed(Services ports)
     fillIn(ports.bitsPerPixel, real.bitsPerPixel);
     fillIn(ports.registry, real.registry);
     fillIn(ports.icons, real.icons);
+    fillIn(ports.resultTexts, real.resultTexts);
     return ports;
 }
 

@@ -76,6 +76,7 @@ Services realServices()
     services.bitsPerPixel = readBitsPerPixel;
     services.registry = std::make_shared<RegFileStore>();
     services.icons = std::make_shared<BlankIcons>(realSystemMetric);
+    services.resultTexts = std::make_shared<ResultTexts>();
     return services;
 }
 

@@ -2,6 +2,7 @@
 
 #include <condtree/platform/IconLibrary.h>
 #include <condtree/platform/RegistryStore.h>
+#include <condtree/platform/ResultTexts.h>
 #include <condtree/platform/TextRef.h>
 #include <condtree/platform/WinTypes.h>
 
@@ -49,6 +50,9 @@ struct Services {
     std::function<void(QObject* receiver, std::uintptr_t id)> stopTimer;
     std::shared_ptr<RegistryStore> registry;
     std::shared_ptr<IconLibrary> icons;
+    /// The messages of result codes that the control does not know; the host may add some at any
+    /// time.
+    std::shared_ptr<ResultTexts> resultTexts;
 };
 
 } // namespace condtree

@@ -10,6 +10,11 @@ namespace condtree {
 using StringSource = std::function<CString(LONG id, const char16_t* key, const char16_t* section,
                                            const char16_t* defaultText)>;
 
+/// The same in a given language; an empty one is the user's.
+using LanguageStringSource =
+    std::function<CString(LONG id, const char16_t* key, const char16_t* section,
+                          const char16_t* defaultText, const CString& language)>;
+
 /// A localised text, named.
 struct TextRef {
     LONG id;

@@ -11,6 +11,7 @@
 #include <condtree/platform/IconLibrary.h>
 #include <condtree/platform/Lst.h>
 #include <condtree/platform/RegistryStore.h>
+#include <condtree/platform/ResultTexts.h>
 #include <condtree/platform/Services.h>
 #include <condtree/platform/SpStr.h>
 #include <condtree/platform/StoredProcs.h>
