@@ -15,7 +15,8 @@ enum class ResultTextKind {
 };
 
 /// The message of one result code. Plain texts are translated by id, key and section; the other
-/// kinds do not use these. Kinds of versions have texts of their own and use no default text either.
+/// kinds do not use these. Kinds of versions have texts of their own and use no default text
+/// either.
 struct ResultText {
     HRESULT code = S_OK;
     LONG id = 0;
