@@ -1,22 +1,18 @@
 #include "Language.h"
 
+#include "CatalogueFile.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
-#include <QLoggingCategory>
 #include <QStandardPaths>
 #include <QTranslator>
-
-#include <algorithm>
-#include <memory>
 
 #include <dlfcn.h>
 
 namespace condtree {
 
 namespace {
-
-Q_LOGGING_CATEGORY(logStrMgr, "condtree.strmgr")
 
 constexpr QLatin1String kTranslatorName("condtree.language");
 
@@ -36,44 +32,6 @@ void unloadLanguage(QCoreApplication& application)
         QCoreApplication::removeTranslator(translator);
         delete translator;
     }
-}
-
-/// Whether a name is that of a language, and so cannot lead out of a folder.
-bool isLanguageName(const QString& name)
-{
-    return std::all_of(name.begin(), name.end(), [](QChar c) {
-        return c.unicode() < 0x80 && (c.isLetterOrNumber() || c == u'_' || c == u'-');
-    });
-}
-
-QString findExactly(const QString& language, const QStringList& folders)
-{
-    for (const QString& folder : folders) {
-        QString path = QDir(folder).filePath(QLatin1String("condtree_%1.qm").arg(language));
-        if (!folder.isEmpty() && QFileInfo(path).isFile())
-            return path;
-    }
-    return {};
-}
-
-/// The catalogue of a language, or else that of the language without its country or script.
-QString findCatalogue(const QString& language, const QStringList& folders)
-{
-    if (!isLanguageName(language))
-        return {};
-    QString name = language;
-    for (name.replace(u'-', u'_'); !name.isEmpty();
-         name.truncate(std::max<qsizetype>(0, name.lastIndexOf(u'_')))) {
-        if (QString path = findExactly(name, folders); !path.isEmpty())
-            return path;
-    }
-    return {};
-}
-
-bool isEnglish(const QString& language)
-{
-    return language.isEmpty() || language == u"C" || language.section(u'-', 0, 0) == u"en"
-           || language.section(u'_', 0, 0) == u"en";
 }
 
 } // namespace
@@ -108,21 +66,13 @@ bool loadLanguage(QCoreApplication& application, const CString& language,
                   const QStringList& folders)
 {
     unloadLanguage(application);
-    const QString name = isEnglish(language) ? QStringLiteral("en") : language;
-    const QString path = findCatalogue(name, folders);
-    if (path.isEmpty()) {
-        if (name == u"en")
-            return true;
-        qCWarning(logStrMgr).noquote() << "no texts for the language" << name;
+    CatalogueRead read = readCatalogue(language, folders);
+    if (read.translator == nullptr)
+        return read.isGood;
+    read.translator->setObjectName(kTranslatorName);
+    if (!QCoreApplication::installTranslator(read.translator.get()))
         return false;
-    }
-    auto translator = std::make_unique<QTranslator>();
-    translator->setObjectName(kTranslatorName);
-    if (!translator->load(path) || !QCoreApplication::installTranslator(translator.get())) {
-        qCWarning(logStrMgr).noquote() << "cannot read the texts of" << path;
-        return false;
-    }
-    translator.release()->setParent(&application);
+    read.translator.release()->setParent(&application);
     return true;
 }
 

@@ -1,5 +1,6 @@
 #include "ConditionModel.h"
 
+#include <condtree/model/ControlText.h>
 #include <condtree/platform/Lst.h>
 #include <condtree/presentation/ConditionImages.h>
 #include <condtree/values/CommandCatalogue.h>
@@ -304,7 +305,8 @@ CString ConditionModel::spokenText(const VarTreeCtrlNode& node) const
 {
     if (node.mlCode < Category)
         return node.mName;
-    QStringList parts{node.mName.isEmpty() ? anyVariableText().from(m_strings) : node.mName,
+    QStringList parts{node.mName.isEmpty() ? textRef(ControlText::AnyVariable).from(m_strings)
+                                           : node.mName,
                       operatorName(node.mlOperator, u"?", m_strings), node.mValue, node.mExtra};
     parts.removeAll(QString());
     return parts.join(QLatin1String(", "));

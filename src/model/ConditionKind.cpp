@@ -1,28 +1,24 @@
 #include "ConditionKind.h"
 
+#include "ControlText.h"
+
 #include <array>
 
 namespace condtree {
 
 namespace {
 
-constexpr TextRef workflowText(LONG id, const char16_t* text)
-{
-    return {id, kTextKey, u"Workflow", text};
-}
-
 constexpr std::array<ConditionKind, 10> kKinds{{
-    {1, FilePath, workflowText(20, u"FilePath"), ValueKind::Text},
+    {1, FilePath, textRef(ControlText::FilePath), ValueKind::Text},
     {2, NodeVariable, std::nullopt, ValueKind::Text},
-    {3, Revision, workflowText(21, u"Revision"), ValueKind::Text},
-    {4, Category, workflowText(87, u"Category"), ValueKind::Text},
-    {5, ObjectType, workflowText(732, u"Object Type"), ValueKind::ObjectType},
+    {3, Revision, textRef(ControlText::Revision), ValueKind::Text},
+    {4, Category, textRef(ControlText::Category), ValueKind::Text},
+    {5, ObjectType, textRef(ControlText::ObjectType), ValueKind::ObjectType},
     {6, NodeOtherName, std::nullopt, ValueKind::Text},
-    {7, ChildRefState, workflowText(756, u"Child Reference State"), ValueKind::ChildRefState},
-    {8, User, workflowText(40, u"User"), ValueKind::User},
-    {9, Group, workflowText(180, u"Group"), ValueKind::Group},
-    {10, NodeHistoricState, workflowText(757, u"Child Reference historic State"),
-     ValueKind::ChildRefState},
+    {7, ChildRefState, textRef(ControlText::ChildRefState), ValueKind::ChildRefState},
+    {8, User, textRef(ControlText::User), ValueKind::User},
+    {9, Group, textRef(ControlText::Group), ValueKind::Group},
+    {10, NodeHistoricState, textRef(ControlText::ChildRefHistoricState), ValueKind::ChildRefState},
 }};
 
 constexpr bool isBetween(LONG value, LONG first, LONG last)

@@ -1,9 +1,9 @@
 #include "RowPicture.h"
 
 #include <condtree/model/ComboCmd.h>
+#include <condtree/model/ControlText.h>
 #include <condtree/model/VarTreeCtrlNode.h>
 #include <condtree/presentation/RowStyle.h>
-#include <condtree/values/CommandCatalogue.h>
 #include <condtree/values/OperatorCatalogue.h>
 
 namespace condtree {
@@ -62,8 +62,9 @@ RowPicture describeRow(const RowContent& content, const RowLayout& layout,
 
     // The frame comes after the first text and the separators before theirs: a text that overlaps a
     // line is covered by it, or covers it, in just this order.
-    picture.push_back(textIn(cells.text[0], content.name.isEmpty() ? anyVariableText().from(strings)
-                                                                   : content.name));
+    picture.push_back(textIn(cells.text[0], content.name.isEmpty()
+                                                ? textRef(ControlText::AnyVariable).from(strings)
+                                                : content.name));
     picture.push_back(frameOf(cells.body, content.parentCode));
     picture.push_back(separatorAt(cells.separator[0], cells.body));
     picture.push_back(ImagePrimitive{operatorImageIndex(content.op), cells.operatorImage});

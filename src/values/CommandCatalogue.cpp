@@ -1,5 +1,6 @@
 #include "CommandCatalogue.h"
 
+#include <condtree/model/ControlText.h>
 #include <condtree/model/VarTreeCtrlNode.h>
 
 #include <algorithm>
@@ -9,16 +10,6 @@
 namespace condtree {
 
 namespace {
-
-constexpr TextRef searchText(LONG id, const char16_t* text)
-{
-    return {id, kTextKey, u"Search", text};
-}
-
-constexpr TextRef workflowText(LONG id, const char16_t* text)
-{
-    return {id, kTextKey, u"Workflow", text};
-}
 
 // The pictures of the row image list, by index.
 constexpr int kImageOr = 2;
@@ -31,22 +22,22 @@ constexpr int kImageGroup = 7;
 constexpr int kImageOfGroupChoice = 0;
 
 constexpr std::array<CommandEntry, 20> kCommands{{
-    {And, searchText(38, u"And"), std::nullopt},
-    {Or, searchText(39, u"Or"), kImageOr},
-    {Remove, searchText(55, u"Remove"), kImageRemove},
-    {Category, workflowText(87, u"Category"), kImageFixedKind},
+    {And, textRef(ControlText::And), std::nullopt},
+    {Or, textRef(ControlText::Or), kImageOr},
+    {Remove, textRef(ControlText::Remove), kImageRemove},
+    {Category, textRef(ControlText::Category), kImageFixedKind},
     {DocTypeChoice, std::nullopt, std::nullopt},
-    {FilePath, workflowText(20, u"FilePath"), kImageFixedKind},
-    {ObjectType, workflowText(732, u"Object Type"), kImageFixedKind},
-    {Revision, workflowText(21, u"Revision"), kImageFixedKind},
-    {ChildRefState, workflowText(756, u"Child Reference State"), kImageFixedKind},
-    {User, workflowText(40, u"User"), kImageUser},
-    {Group, workflowText(180, u"Group"), kImageGroup},
-    {ObjectTypeFile, workflowText(733, u"File"), std::nullopt},
-    {ObjectTypeBom, workflowText(734, u"BOM"), std::nullopt},
-    {ObjectTypeItem, TextRef{15, kTextKey, u"ItemMgr", u"Item"}, std::nullopt},
-    {BinaryYes, workflowText(58, u"Yes"), std::nullopt},
-    {BinaryNo, workflowText(59, u"No"), std::nullopt},
+    {FilePath, textRef(ControlText::FilePath), kImageFixedKind},
+    {ObjectType, textRef(ControlText::ObjectType), kImageFixedKind},
+    {Revision, textRef(ControlText::Revision), kImageFixedKind},
+    {ChildRefState, textRef(ControlText::ChildRefState), kImageFixedKind},
+    {User, textRef(ControlText::User), kImageUser},
+    {Group, textRef(ControlText::Group), kImageGroup},
+    {ObjectTypeFile, textRef(ControlText::File), std::nullopt},
+    {ObjectTypeBom, textRef(ControlText::BillOfMaterials), std::nullopt},
+    {ObjectTypeItem, textRef(ControlText::Item), std::nullopt},
+    {BinaryYes, textRef(ControlText::Yes), std::nullopt},
+    {BinaryNo, textRef(ControlText::No), std::nullopt},
     {StateChoice, std::nullopt, std::nullopt},
     {VariableBase, std::nullopt, kImageVariable},
     {UserChoice, std::nullopt, std::nullopt},
@@ -54,9 +45,6 @@ constexpr std::array<CommandEntry, 20> kCommands{{
 }};
 
 static_assert(std::ranges::is_sorted(kCommands, {}, &CommandEntry::command));
-
-constexpr TextRef kPlaceholder = searchText(70, u"<Click here to add a condition>");
-constexpr TextRef kAnyVariable = searchText(44, u"<Any Variable>");
 
 struct RowImage {
     LONG nodeCode;
@@ -99,20 +87,10 @@ const CommandEntry* findCommand(LONG command)
     return findEntry(kCommands, command, &CommandEntry::command);
 }
 
-const TextRef& placeholderText()
-{
-    return kPlaceholder;
-}
-
-const TextRef& anyVariableText()
-{
-    return kAnyVariable;
-}
-
 const TextRef* typeLabel(LONG nodeCode)
 {
     if (nodeCode == NodePlaceholder)
-        return &kPlaceholder;
+        return &textRef(ControlText::Placeholder);
     return nodeCode == NodeAnd || nodeCode == NodeOr ? &*findCommand(nodeCode)->text : nullptr;
 }
 

@@ -23,11 +23,6 @@ struct CommandEntry {
 /// The entry of a number; null when it is none of them.
 [[nodiscard]] const CommandEntry* findCommand(LONG command);
 
-/// "<Click here to add a condition>".
-[[nodiscard]] const TextRef& placeholderText();
-/// "<Any Variable>", the first column of a condition without a name.
-[[nodiscard]] const TextRef& anyVariableText();
-
 /// The label that a node takes from its code: the placeholder's, the AND group's or the OR group's.
 /// Null for every other code, which keeps the label it has.
 [[nodiscard]] const TextRef* typeLabel(LONG nodeCode);

@@ -1,7 +1,7 @@
 #include "ValueTexts.h"
 
-#include "CommandCatalogue.h"
-
+#include <condtree/model/ComboCmd.h>
+#include <condtree/model/ControlText.h>
 #include <condtree/platform/NativeText.h>
 
 namespace condtree {
@@ -14,19 +14,19 @@ constexpr LONG kObjectTypeRecord = 5;
 constexpr LONG kStoredBillOfMaterials = 3;
 constexpr LONG kStoredItem = 4;
 
-CString textOf(ComboCmd command, const StringSource& strings)
+CString textOf(ControlText text, const StringSource& strings)
 {
-    return findCommand(command)->text->from(strings);
+    return textRef(text).from(strings);
 }
 
 } // namespace
 
 ValueTexts::ValueTexts(const StringSource& strings)
-    : yes(textOf(BinaryYes, strings))
-    , no(textOf(BinaryNo, strings))
-    , file(textOf(ObjectTypeFile, strings))
-    , billOfMaterials(textOf(ObjectTypeBom, strings))
-    , item(textOf(ObjectTypeItem, strings))
+    : yes(textOf(ControlText::Yes, strings))
+    , no(textOf(ControlText::No, strings))
+    , file(textOf(ControlText::File, strings))
+    , billOfMaterials(textOf(ControlText::BillOfMaterials, strings))
+    , item(textOf(ControlText::Item, strings))
 {
 }
 

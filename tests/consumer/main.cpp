@@ -26,6 +26,7 @@
 #include <condtree/storedprocs/SpSample.h>
 #include <condtree/storedprocs/SpTransitions.h>
 #include <condtree/strmgr/Language.h>
+#include <condtree/strmgr/StringTable.h>
 
 #include <QApplication>
 #include <QFile>
@@ -104,10 +105,11 @@ int main(int argc, char** argv)
               << ResultCodeText(E_OUTOFMEMORY).toStdString() << '\n'
               << "default operator: " << HostControl::defaultOperator(VarDate) << '\n'
               << "result codes: " << catchesResultCodes() << '\n'
-              << "English: " << loadLanguage(*QCoreApplication::instance(), QStringLiteral("en"))
-              << '\n';
+              << "German: " << loadLanguage(*QCoreApplication::instance(), QStringLiteral("de_AT"))
+              << '\n'
+              << TSS_internal(39, u"TS", u"Search", u"Or").toStdString() << '\n';
     for (const QString& folder : languageFolders()) {
-        if (QFile::exists(folder + QStringLiteral("/condtree_en.qm")))
+        if (QFile::exists(folder + QStringLiteral("/condtree_de.qm")))
             std::cout << "catalogue found\n";
     }
     if (manager != nullptr)

@@ -198,46 +198,59 @@ TEST_F(Localised, EnglishNeedsNoCatalogue)
     EXPECT_EQ(translators(), 0);
 }
 
-TEST_F(Localised, TheEnglishCatalogueIsFoundBesideTheLibraryAndChangesNoText)
+TEST_F(Localised, ALanguageIsFoundWithoutItsCountryOrScript)
 {
-    ASSERT_TRUE(load(QStringLiteral("en"), languageFolders()));
-    ASSERT_EQ(translators(), 1);
-    const std::vector<std::tuple<LONG, const char16_t*, const char16_t*>> texts{
-        {38, u"Search", u"And"},
-        {39, u"Search", u"Or"},
-        {44, u"Search", u"<Any Variable>"},
-        {55, u"Search", u"Remove"},
-        {70, u"Search", u"<Click here to add a condition>"},
-        {20, u"Workflow", u"FilePath"},
-        {21, u"Workflow", u"Revision"},
-        {40, u"Workflow", u"User"},
-        {58, u"Workflow", u"Yes"},
-        {59, u"Workflow", u"No"},
-        {87, u"Workflow", u"Category"},
-        {180, u"Workflow", u"Group"},
-        {732, u"Workflow", u"Object Type"},
-        {733, u"Workflow", u"File"},
-        {734, u"Workflow", u"BOM"},
-        {756, u"Workflow", u"Child Reference State"},
-        {757, u"Workflow", u"Child Reference historic State"},
-        {15, u"ItemMgr", u"Item"},
+    for (const char16_t* name : {u"xt_AT", u"xt-AT", u"xt_Latn_AT", u"xt-Latn-AT"}) {
+        ASSERT_TRUE(load(QString::fromUtf16(name))) << QString::fromUtf16(name).toStdString();
+        EXPECT_EQ(TSS_internal(733, u"TS", u"Workflow", u"File"), QStringLiteral("Datei"));
+    }
+}
+
+TEST_F(Localised, ALanguageOfACountryGoesBeforeTheLanguage)
+{
+    const QTemporaryDir folder;
+    const auto copy = [&](const char* from, const char* to) {
+        return QFile::copy(kTestFolder + QLatin1String("/condtree_%1.qm").arg(QLatin1String(from)),
+                           folder.filePath(QLatin1String("condtree_%1.qm").arg(QLatin1String(to))));
     };
-    const auto* const catalogue =
-        QCoreApplication::instance()->findChildren<QTranslator*>().first();
-    for (const auto& [id, section, text] : texts) {
-        const QString expected = QString::fromUtf16(text);
-        EXPECT_EQ(TSS_internal(id, u"TS", section, text), expected) << id;
-        const QByteArray comment = "TS " + QByteArray::number(id);
-        EXPECT_EQ(
-            catalogue->translate(QString::fromUtf16(section).toUtf8(), expected.toUtf8(), comment),
-            expected)
-            << "not in the catalogue: " << id;
+    ASSERT_TRUE(copy("xt", "xt") && copy("xu", "xt_AT"));
+    ASSERT_TRUE(load(QStringLiteral("xt-AT"), {folder.path()}));
+    EXPECT_EQ(TSS_internal(106, u"OpName", u"Search", u"?"), QStringLiteral("Texte contient"));
+    ASSERT_TRUE(load(QStringLiteral("xt_CH"), {folder.path()}));
+    EXPECT_EQ(TSS_internal(106, u"OpName", u"Search", u"?"), QStringLiteral("Text enthält"));
+}
+
+TEST_F(Localised, ThePreferredLanguageIsTheFirstThatHasTexts)
+{
+    const struct {
+        QStringList wanted;
+        const char* language;
+    } rows[] = {
+        {{}, "en"},
+        {{QStringLiteral("xt")}, "xt"},
+        {{QStringLiteral("xt-AT"), QStringLiteral("xu")}, "xt-AT"},
+        {{QStringLiteral("yy"), QStringLiteral("xu_FR"), QStringLiteral("xt")}, "xu_FR"},
+        {{QStringLiteral("yy"), QStringLiteral("en-GB"), QStringLiteral("xt")}, "en"},
+        {{QStringLiteral("C")}, "en"},
+        {{QStringLiteral("en_US")}, "en"},
+        {{QStringLiteral("english"), QStringLiteral("xt")}, "xt"},
+        // None has: the first is named, so that loading it says so.
+        {{QStringLiteral("yy"), QStringLiteral("zz")}, "yy"},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(preferredLanguage(row.wanted, {kTestFolder}), QLatin1String(row.language))
+            << row.wanted.join(u' ').toStdString();
+}
+
+TEST_F(Localised, EveryLanguageLiesBesideTheLibraryAndNamesAnOperatorItsWay)
+{
+    QStringList names;
+    for (const char* language : {"de", "es", "fr", "ja", "sv"}) {
+        ASSERT_TRUE(load(QLatin1String(language), languageFolders())) << language;
+        names << TSS_internal(106, u"OpName", u"Search", u"?");
     }
-    for (LONG id = 100; id < 140; ++id) {
-        const QString name = TSS_internal(id, u"OpName", u"Search", u"");
-        const QByteArray comment = "OpName " + QByteArray::number(id);
-        EXPECT_EQ(catalogue->translate("Search", name.toUtf8(), comment), name) << id;
-    }
+    names << QStringLiteral("String Contains");
+    EXPECT_EQ(names.removeDuplicates(), 0) << names.join(u' ').toStdString();
 }
 
 } // namespace

@@ -1,7 +1,5 @@
 #include <condtree/values/CommandCatalogue.h>
 
-#include <condtree/model/ConditionKind.h>
-
 #include <gtest/gtest.h>
 
 #include <limits>
@@ -90,27 +88,6 @@ TEST(CommandCatalogue, FindsExactlyItsCommands)
         if (entry != nullptr)
             expectRow(*entry, expected.at(command));
     }
-}
-
-TEST(CommandCatalogue, CallsAKindAsItsLoadedRowsAreCalled)
-{
-    int compared = 0;
-    for (const ConditionKind& kind : conditionKinds()) {
-        const CommandEntry* entry = findCommand(kind.nodeCode);
-        if (entry == nullptr || !entry->text)
-            continue;
-        ASSERT_TRUE(kind.label.has_value()) << kind.nodeCode;
-        expectText(*entry->text, kind.label->id, text(kind.label->section).c_str(),
-                   text(kind.label->defaultText).c_str());
-        ++compared;
-    }
-    EXPECT_EQ(compared, 7); // all labelled kinds but the historic state, which no list offers
-}
-
-TEST(CommandCatalogue, NamesThePlaceholderAndTheNamelessVariable)
-{
-    expectText(placeholderText(), 70, "Search", "<Click here to add a condition>");
-    expectText(anyVariableText(), 44, "Search", "<Any Variable>");
 }
 
 TEST(TypeLabel, IsGivenToThePlaceholderAndTheGroups)
