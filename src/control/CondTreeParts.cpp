@@ -77,7 +77,8 @@ void CondTreeParts::report(HRESULT code) const
 {
     if (messageOwner.isNull())
         return;
-    services.messageBox(messageOwner, ResultCodeText(code, services.string), MB_OK);
+    services.messageBox(messageOwner,
+                        ResultCodeText(code, services.string, services.resultTexts.get()), MB_OK);
 }
 
 } // namespace condtree

@@ -1,39 +1,12 @@
-#include <condtree/refdata/ErrorText.h>
+#include "ErrorTextSources.h"
 
 #include <gtest/gtest.h>
 
+#include <ios>
 #include <new>
-#include <vector>
 
-namespace condtree {
+namespace condtree::test {
 namespace {
-
-/// A source without translations.
-CString untranslated(LONG, const char16_t*, const char16_t*, const char16_t* defaultText)
-{
-    return QString::fromUtf16(defaultText);
-}
-
-CString textOf(DWORD code)
-{
-    return ResultCodeText(static_cast<HRESULT>(code), untranslated);
-}
-
-/// A source that notes the ids that it is asked for.
-struct Asked {
-    std::vector<LONG> ids;
-    CString key, section;
-
-    StringSource source()
-    {
-        return [this](LONG id, const char16_t* k, const char16_t* s, const char16_t*) {
-            ids.push_back(id);
-            key = QString::fromUtf16(k);
-            section = QString::fromUtf16(s);
-            return QStringLiteral("translated %1").arg(id);
-        };
-    }
-};
 
 struct CatalogueRow {
     DWORD code;
@@ -79,7 +52,8 @@ const CatalogueRow kCatalogue[] = {
 TEST(ErrorText, ACodeOfTheCatalogueHasItsText)
 {
     for (const CatalogueRow& row : kCatalogue)
-        EXPECT_EQ(textOf(row.code), QString::fromUtf16(row.text)) << std::hex << row.code;
+        EXPECT_EQ(textOf(row.code), QString::fromUtf16(row.text).toStdString())
+            << std::hex << row.code;
 }
 
 TEST(ErrorText, ACodeOfTheCatalogueIsTranslatedByItsId)
@@ -87,99 +61,93 @@ TEST(ErrorText, ACodeOfTheCatalogueIsTranslatedByItsId)
     for (const CatalogueRow& row : kCatalogue) {
         SCOPED_TRACE(row.code);
         Asked asked;
-        EXPECT_EQ(ResultCodeText(static_cast<HRESULT>(row.code), asked.source()),
+        EXPECT_EQ(ResultCodeText(asResult(row.code), asked.source()),
                   QStringLiteral("translated %1").arg(row.id));
-        EXPECT_EQ(asked.ids, (std::vector<LONG>{row.id}));
-        EXPECT_EQ(asked.key, QStringLiteral("ErrorCodes"));
-        EXPECT_EQ(asked.section, QStringLiteral("ErrorCodes"));
+        EXPECT_EQ(asked.texts, QStringList(QStringLiteral("%1 ErrorCodes ErrorCodes %2")
+                                               .arg(row.id)
+                                               .arg(QString::fromUtf16(row.text))));
     }
+}
+
+TEST(ErrorText, ACodeOfTheCatalogueIsTranslatedIntoTheLanguage)
+{
+    for (const CatalogueRow& row : kCatalogue) {
+        SCOPED_TRACE(row.code);
+        Asked asked;
+        EXPECT_EQ(ResultCodeText(asResult(row.code), asked.languageSource(), QStringLiteral("fi")),
+                  QStringLiteral("translated %1 into fi").arg(row.id));
+        EXPECT_EQ(asked.languages, QStringList(QStringLiteral("fi")));
+        EXPECT_EQ(asked.texts.size(), 1);
+    }
+}
+
+TEST(ErrorText, AnEmptyLanguageIsHandedOnToo)
+{
+    Asked asked;
+    EXPECT_EQ(ResultCodeText(E_FAIL, asked.languageSource(), CString()),
+              QStringLiteral("translated 66 into "));
+    EXPECT_EQ(asked.languages, QStringList(QString()));
+}
+
+TEST(ErrorText, TwoCodesShareTheMessageOfTheDatabaseThatDoesNotOpen)
+{
+    EXPECT_EQ(textOf(0x80040206), textOf(0x80040221));
 }
 
 TEST(ErrorText, WithoutASourceOrATranslationTheDefaultIsUsed)
 {
-    const auto silent = [](LONG, const char16_t*, const char16_t*, const char16_t*) {
-        return CString();
-    };
+    const auto silentIn = [](LONG, const char16_t*, const char16_t*, const char16_t*,
+                             const CString&) { return CString(); };
     const QString text = QStringLiteral("An unspecified error occurred.");
     EXPECT_EQ(ResultCodeText(E_FAIL, StringSource()), text);
     EXPECT_EQ(ResultCodeText(E_FAIL, silent), text);
+    EXPECT_EQ(ResultCodeText(E_FAIL, LanguageStringSource(), QStringLiteral("fi")), text);
+    EXPECT_EQ(ResultCodeText(E_FAIL, silentIn, QStringLiteral("fi")), text);
 }
 
 TEST(ErrorText, ACodeWithoutADefaultIsShownWhenItIsTranslated)
 {
     Asked asked;
-    EXPECT_EQ(ResultCodeText(static_cast<HRESULT>(0x80040200U), asked.source()),
-              QStringLiteral("translated 2"));
-    EXPECT_EQ(asked.ids, (std::vector<LONG>{2}));
-    EXPECT_EQ(textOf(0x80040200), QStringLiteral("Unknown error 0x80040200"));
+    EXPECT_EQ(ResultCodeText(asResult(0x80040200), asked.source()), QStringLiteral("translated 2"));
+    EXPECT_EQ(asked.texts, QStringList(QStringLiteral("2 ErrorCodes ErrorCodes ")));
+    EXPECT_EQ(textOf(0x80040200), "Unknown error 0x80040200");
+    EXPECT_EQ(ResultCodeText(asResult(0x80040200), StringSource()),
+              QStringLiteral("Unknown error 0x80040200"));
 }
 
-struct TextRow {
-    DWORD code;
-    const char* text;
-};
-
-TEST(ErrorText, OtherCodesHaveTheTextOfTheirRange)
+/// The result code that a call raises; S_OK when it raises none.
+template <class Call>
+HRESULT raisedBy(const Call& call)
 {
-    const TextRow rows[] = {
-        // Internet transfer, by the low half
-        {0x80072EE7, "The server name could not be resolved."},
-        {0x80072EFD, "The attempt to connect to the server failed."},
-        {0x80072EFE, "The connection with the server has been terminated."},
-        {0x80072EFF, "The connection with the server has been reset."},
-        {0x80072F83, "The Internet connection has been lost"},
-        {0x80072EE0, "A WinINet error occured (code=12000)."},
-        {0x80072FA0, "A WinINet error occured (code=12192)."},
-        {0x80072EDF, "Unknown error 0x80072EDF"},
-        {0x80072FA1, "Unknown error 0x80072FA1"},
-        // Archive server
-        {0x80040232, "Archive server revision control error 0 (0x080040232)"},
-        {0x800402C4, "Archive server revision control error 146 (0x0800402C4)"},
-        {0x80040231, "IDispatch error #49"},
-        {0x800402C5, "IDispatch error #197"},
-        // System texts
-        {0x80070005, "Access is denied."},
-        {0x80040154, "The class is not registered."},
-        // An interface's own codes, counted from 0x200
-        {0x80040F00, "IDispatch error #3328"},
-        {0x80040000, "IDispatch error #-512"},
-        {0x800401FF, "IDispatch error #-1"},
-        {0x8004FFFF, "IDispatch error #65023"},
-        {0x80040200, "Unknown error 0x80040200"},
-        // Nothing known
-        {0x80550000, "Unknown error 0x80550000"},
-        {0x8003FFFF, "Unknown error 0x8003FFFF"},
-        {0x80050000, "Unknown error 0x80050000"},
-        {0x8ABCDEF0, "Unknown error 0x8ABCDEF0"},
-        {0x00000002, "Unknown error 0x2"},
-        {0xFFFFFFFF, "Unknown error 0xFFFFFFFF"},
-    };
-    for (const TextRow& row : rows)
-        EXPECT_EQ(textOf(row.code), QString::fromLatin1(row.text)) << std::hex << row.code;
-}
-
-TEST(ErrorText, TheRangesAreNotTranslated)
-{
-    for (const DWORD code :
-         {0x80072EE7U, 0x80072EE0U, 0x80040232U, 0x80070005U, 0x80040F00U, 0x80550000U}) {
-        Asked asked;
-        EXPECT_EQ(ResultCodeText(static_cast<HRESULT>(code), asked.source()), textOf(code));
-        EXPECT_TRUE(asked.ids.empty());
+    try {
+        (void)call();
+    } catch (const _com_error& error) {
+        return error.Error();
     }
+    return S_OK;
 }
 
 TEST(ErrorText, ExhaustedMemoryIsRaisedAsAResultCode)
 {
-    const auto exhausted = [](LONG, const char16_t*, const char16_t*, const char16_t*) -> CString {
-        throw std::bad_alloc();
+    // More characters than there are addresses.
+    const auto tooLong = [] { return CString(qsizetype(1) << 62, u'x'); };
+    ASSERT_THROW((void)tooLong(), std::bad_alloc);
+    const auto exhausted = [&](LONG, const char16_t*, const char16_t*, const char16_t*) {
+        return tooLong();
     };
-    try {
-        (void)ResultCodeText(E_FAIL, exhausted);
-        ADD_FAILURE() << "nothing was raised";
-    } catch (const _com_error& error) {
-        EXPECT_EQ(error.Error(), static_cast<HRESULT>(0x8007000EU));
-    }
+    const auto exhaustedIn = [&](LONG, const char16_t*, const char16_t*, const char16_t*,
+                                 const CString&) { return tooLong(); };
+    const HRESULT expected = asResult(0x8007000E);
+    EXPECT_EQ(raisedBy([&] { return ResultCodeText(E_FAIL, exhausted); }), expected);
+    EXPECT_EQ(raisedBy([&] { return ResultCodeText(E_FAIL, exhaustedIn, QStringLiteral("fi")); }),
+              expected);
+
+    ResultTexts more;
+    more.add({5, 400, {}, {}, {}, ResultTextKind::Plain});
+    more.add({6, 400, {}, {}, {}, ResultTextKind::DatabaseVersion});
+    EXPECT_EQ(raisedBy([&] { return ResultCodeText(5, exhausted, &more); }), expected);
+    EXPECT_EQ(raisedBy([&] { return ResultCodeText(6, exhausted, &more); }), expected);
 }
 
 } // namespace
-} // namespace condtree
+} // namespace condtree::test
