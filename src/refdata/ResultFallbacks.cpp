@@ -73,15 +73,15 @@ CString withoutLineEnd(CString text)
     return text;
 }
 
-CString fallbackText(HRESULT result)
+CString fallbackText(HRESULT code)
 {
-    const auto code = static_cast<DWORD>(result);
-    if (code >= kFirstTransferCode && code <= kLastTransferCode)
-        return transferText(lowHalf(code));
-    if (code >= kFirstArchiveCode && code <= kLastArchiveCode)
-        return archiveText(code);
-    CString text = withoutLineEnd(systemText(result));
-    return text.isEmpty() ? unknownText(code) : text;
+    const auto bits = static_cast<DWORD>(code);
+    if (bits >= kFirstTransferCode && bits <= kLastTransferCode)
+        return transferText(lowHalf(bits));
+    if (bits >= kFirstArchiveCode && bits <= kLastArchiveCode)
+        return archiveText(bits);
+    CString text = withoutLineEnd(systemText(code));
+    return text.isEmpty() ? unknownText(bits) : text;
 }
 
 } // namespace condtree
