@@ -44,4 +44,12 @@ std::optional<CString> StringTable::string(LONG id, const char16_t* section,
     return known.empty() ? std::nullopt : std::optional(owned(known));
 }
 
+CString StringTableText(LONG id, const char16_t* key, const char16_t* section,
+                        const char16_t* defaultText, const CString& language)
+{
+    const StringTable table(CString::fromUtf16(kProductTitle), owned(viewOf(key)), language);
+    const std::optional<CString> text = table.string(id, section, defaultText);
+    return text ? *text : owned(viewOf(defaultText));
+}
+
 } // namespace condtree

@@ -40,4 +40,11 @@ private:
     std::unique_ptr<QTranslator> m_translator;
 };
 
+/// A text of the product's string table; the default where there is none. An empty language is the
+/// application's.
+[[nodiscard]] CONDTREE_EXPORT CString StringTableText(LONG id, const char16_t* key,
+                                                      const char16_t* section,
+                                                      const char16_t* defaultText,
+                                                      const CString& language);
+
 } // namespace condtree

@@ -65,6 +65,27 @@ TEST_F(LoadingFailures, MissingProcedureObjectsLeaveEmptyValuesWithoutAMessage)
     EXPECT_TRUE(messages.empty());
 }
 
+TEST_F(LoadingFailures, TheHostsMessagesAreShownFromWhenTheyAreAdded)
+{
+    const auto code = static_cast<HRESULT>(0x80040501U);
+    const auto texts = std::make_shared<ResultTexts>();
+    Services ports = services();
+    ports.resultTexts = texts;
+    control = std::make_unique<OpenCtrl>(nullptr, ports);
+    initialize();
+    translations[400] = QStringLiteral("The translated one.");
+
+    library->getUsers.results = {code, code, code};
+    (void)loaded({record(3, 8, "", "7", 1, 100)});
+    texts->add({code, 399, {}, {}, QStringLiteral("The host's."), ResultTextKind::Plain});
+    (void)loaded({record(3, 8, "", "7", 1, 100)});
+    texts->add({code, 400, {}, {}, QStringLiteral("The host's."), ResultTextKind::Plain});
+    (void)loaded({record(3, 8, "", "7", 1, 100)});
+    EXPECT_EQ(messages, (std::vector<QString>{QStringLiteral("IDispatch error #769"),
+                                              QStringLiteral("The host's."),
+                                              QStringLiteral("The translated one.")}));
+}
+
 TEST_F(LoadingFailures, ReferenceDataIsLoadedOnceForAllRows)
 {
     std::vector<TransCond> records;

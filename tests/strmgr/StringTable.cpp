@@ -104,5 +104,19 @@ TEST_F(Strings, OfAnotherProductAreNotLookedForInACatalogue)
     EXPECT_EQ(table.string(733, u"Workflow"), std::nullopt);
 }
 
+TEST_F(Strings, AreLookedUpWithADefault)
+{
+    const auto text = [](LONG id, const char16_t* defaultText, const char* language = "") {
+        return StringTableText(id, u"ErrorCodes", u"ErrorCodes", defaultText,
+                               QLatin1String(language));
+    };
+    EXPECT_EQ(text(66, u"not this one"), QStringLiteral("An unspecified error occurred."));
+    EXPECT_EQ(text(66, u"", "de"), QStringLiteral("Es ist ein unbekannter Fehler aufgetreten."));
+    EXPECT_EQ(text(4711, u"A host's own."), QStringLiteral("A host's own."));
+    EXPECT_EQ(text(4711, u"A host's own.", "de"), QStringLiteral("A host's own."));
+    EXPECT_EQ(text(4711, nullptr), QString());
+    EXPECT_EQ(StringTableText(66, nullptr, nullptr, u"x", {}), QStringLiteral("x"));
+}
+
 } // namespace
 } // namespace condtree
