@@ -1,6 +1,7 @@
 #include "RealServices.h"
 
 #include <condtree/control/BlankIcons.h>
+#include <condtree/control/MessageBox.h>
 #include <condtree/platform/StrMgr.h>
 #include <condtree/presentation/SystemMetrics.h>
 #include <condtree/refdata/RegFileStore.h>
@@ -8,8 +9,7 @@
 #include <QApplication>
 #include <QCursor>
 #include <QDateTime>
-#include <QMessageBox>
-#include <QPointer>
+#include <QDialog>
 #include <QScreen>
 
 #include <chrono>
@@ -20,13 +20,8 @@ namespace {
 
 int showMessageBox(QWidget* owner, const CString& text, unsigned)
 {
-    // On the heap and watched: the owner may die, and take the box along, while the box is open.
-    const QPointer<QMessageBox> box(new QMessageBox(
-        QMessageBox::NoIcon, QApplication::applicationDisplayName(), text, QMessageBox::Ok, owner));
-    box->setTextFormat(Qt::PlainText);
-    const int answer = box->exec();
-    delete box;
-    return answer;
+    showMessage(owner, text);
+    return QDialog::Accepted;
 }
 
 SYSTEMTIME readLocalTime()

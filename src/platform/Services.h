@@ -33,7 +33,10 @@ inline constexpr unsigned MB_OK = 0;
 /// Everything that the control asks of the world around it, but for the data-access library.
 /// A port that is left empty is the real one. Timers are for the editors, and have no real one yet.
 struct Services {
-    /// Shows a modal message over owner and waits for the answer. type 0 is a plain OK box.
+    /// Shows a plain text, modal to owner's window (to the application where owner is null), and
+    /// waits until it is closed; type is MB_OK. While a message is open over a window, the real one
+    /// adds further texts for that window to it, each once, and returns at once. Owner and its
+    /// window may die meanwhile.
     std::function<int(QWidget* owner, const CString& text, unsigned type)> messageBox;
     StringSource string;
     std::function<SYSTEMTIME()> localTime;

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <condtree/platform/WinTypes.h>
+
+class QWidget;
+
+namespace condtree {
+
+/// Shows text in a box with an OK button, modal to owner's window (to the whole application without
+/// an owner), and waits until it is closed.
+///
+/// While such a box is open over a window, a further text for that window joins it, unless it is
+/// there already, and the call returns at once. The box belongs to nobody: while it is open the
+/// host may delete the owner and its window, and the box stays until the user has read it.
+void showMessage(QWidget* owner, const CString& text);
+
+} // namespace condtree
