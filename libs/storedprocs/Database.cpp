@@ -49,7 +49,7 @@ HRESULT Database::runOnOpen()
     for (const char16_t* sql : m_dialect.onOpen) {
         QSqlQuery query(m_handle);
         if (!query.exec(QStringView(sql).toString()))
-            return logged(query.lastError(), "opening");
+            return logged(query.lastError(), "opening").result;
     }
     return S_OK;
 }
@@ -59,12 +59,11 @@ bool Database::isOnOwnThread() const
     return QThread::currentThread() == m_thread;
 }
 
-HRESULT Database::logged(const QSqlError& error, const char* during) const
+DatabaseFault Database::logged(const QSqlError& error, const char* during) const
 {
-    const HRESULT result = m_dialect.resultOf(error);
     qCWarning(logStoredProcs).nospace()
         << during << " failed: " << error.text() << " (" << error.nativeErrorCode() << ')';
-    return result;
+    return m_dialect.faultOf(error);
 }
 
 } // namespace condtree

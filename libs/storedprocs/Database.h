@@ -28,8 +28,8 @@ public:
     [[nodiscard]] const QSqlDatabase& handle() const { return m_handle; }
     [[nodiscard]] bool isOnOwnThread() const;
 
-    /// Writes what the database said into the log; gives the result code for callers.
-    [[nodiscard]] HRESULT logged(const QSqlError& error, const char* during) const;
+    /// Writes what the database said into the log; gives what it means.
+    [[nodiscard]] DatabaseFault logged(const QSqlError& error, const char* during) const;
 
 private:
     HRESULT runOnOpen();

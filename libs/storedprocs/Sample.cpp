@@ -76,7 +76,6 @@ void addSetting(Transaction& transaction, LONG userId, LONG entry, const char16_
 
 void addUsers(Transaction& transaction)
 {
-    constexpr LONG showsFullNames = 24;
     Statement(transaction, u"DELETE FROM users").exec(); // the first of ours takes its place
     Statement insert(transaction, u"INSERT INTO users (id, login, full_name) VALUES (?, ?, ?)");
     LONG id = 0;
@@ -84,7 +83,7 @@ void addUsers(Transaction& transaction)
         insert.exec({++id, text(user.login), text(user.fullName)});
         addMemberships(transaction, id, user.groups);
         if (user.showsFullNames != nullptr)
-            addSetting(transaction, id, showsFullNames, user.showsFullNames);
+            addSetting(transaction, id, sample::kShowsFullNames, user.showsFullNames);
     }
     for (const sample::Setting& setting : sample::settings())
         addSetting(transaction, setting.userId, setting.entry, setting.value);

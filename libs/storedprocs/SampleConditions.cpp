@@ -4,41 +4,7 @@ namespace condtree::sample {
 
 namespace {
 
-// Row kinds, kinds of conditions and operators as records know them; persisted numbers.
-enum Row : LONG { InOr = 4, Top = 3 };
-enum Kind : LONG {
-    FilePath = 1,
-    CardVariable = 2,
-    Revision = 3,
-    Category = 4,
-    ObjectType = 5,
-    Property = 6,
-    ChildState = 7,
-    User = 8,
-    Group = 9,
-    ChildHistory = 10
-};
-enum Operator : LONG {
-    Is = 100,
-    IsNot = 101,
-    TextAtLeast = 105,
-    Contains = 106,
-    ContainsNot = 107,
-    Pattern = 108,
-    NumberIs = 120,
-    NumberIsNot = 121,
-    NumberBelow = 122,
-    NumberAbove = 123,
-    NumberAtMost = 124,
-    NumberAtLeast = 125,
-    DateIs = 130,
-    DateBefore = 132,
-    DateAfter = 133,
-    DateAtMost = 134,
-    YesNoIs = 139,
-    FromText = 160 ///< The value begins with its operator.
-};
-constexpr Record kOrGroup{2, 0, u"", u"", u"", 0, 0};
+constexpr Record kOrGroup{OrGroup, 0, u"", u"", u"", 0, 0};
 constexpr const char16_t* kChildStateLabel = u"Child Reference State";
 constexpr const char16_t* kChildHistoryLabel = u"Child Reference historic State";
 
@@ -55,9 +21,9 @@ constexpr Record kSubmitForReview[] = {
 
 constexpr Record kRequestChanges[] = {
     kOrGroup,
-    {InOr, User, u"User", u"", u"4", Text, Is},
-    {InOr, User, u"User", u"", u"7", Text, Is},
-    {InOr, Group, u"Group", u"", u"4", Text, Is},
+    {InOr, ByUser, u"User", u"", u"4", Text, Is},
+    {InOr, ByUser, u"User", u"", u"7", Text, Is},
+    {InOr, ByGroup, u"Group", u"", u"4", Text, Is},
     {Top, CardVariable, u"Change Reason", u"the reviewer must give a reason", u"", Text, IsNot},
 };
 
@@ -66,9 +32,9 @@ constexpr Record kApprove[] = {
     {Top, CardVariable, u"Due Date", u"", u">=2024-01-01", Date, FromText},
     {Top, CardVariable, u"Status", u"", u"!=open", Text, FromText},
     kOrGroup,
-    {InOr, Group, u"Group", u"", u"4", Text, Is},
-    {InOr, Group, u"Group", u"", u"7", Text, Is},
-    {InOr, User, u"User", u"has left the company", u"9999", Text, Is},
+    {InOr, ByGroup, u"Group", u"", u"4", Text, Is},
+    {InOr, ByGroup, u"Group", u"", u"7", Text, Is},
+    {InOr, ByUser, u"User", u"has left the company", u"9999", Text, Is},
     kOrGroup,
     {InOr, CardVariable, u"Weight", u"kg", u"250", Decimal, NumberAtMost},
     {InOr, CardVariable, u"Safety Relevant", u"", u"No", YesNo, YesNoIs},
@@ -99,9 +65,9 @@ constexpr Record kSendToBoard[] = {
     {InOr, CardVariable, u"Safety Relevant", u"", u"Yes", YesNo, YesNoIs},
     {InOr, CardVariable, u"Customer", u"", u"%Rail%", Text, Pattern},
     kOrGroup,
-    {InOr, User, u"User", u"", u"6", Text, Is},
-    {InOr, User, u"User", u"", u"46", Text, Is},
-    {Top, Group, u"Group", u"", u"8", Text, IsNot},
+    {InOr, ByUser, u"User", u"", u"6", Text, Is},
+    {InOr, ByUser, u"User", u"", u"46", Text, Is},
+    {Top, ByGroup, u"Group", u"", u"8", Text, IsNot},
 };
 
 constexpr Record kImplement[] = {
@@ -136,7 +102,7 @@ constexpr Record kApproveForPurchase[] = {
     {InOr, CardVariable, u"Supplier Part Number", u"", u"!=%TEMP%", Text, FromText},
     kOrGroup,
     {InOr, CardVariable, u"Export Controlled", u"", u"No", YesNo, YesNoIs},
-    {InOr, Group, u"Group", u"may release exports", u"1", Text, Is},
+    {InOr, ByGroup, u"Group", u"may release exports", u"1", Text, Is},
     {Top, CardVariable, u"Next Audit", u"", u"2026-03-31", Date, DateBefore},
 };
 

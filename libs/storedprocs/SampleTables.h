@@ -1,5 +1,7 @@
 #pragma once
 
+#include "SampleNumbers.h"
+
 #include <condtree/platform/WinTypes.h>
 
 #include <span>
@@ -7,9 +9,6 @@
 // The content of the sample database. Ids are positions in the tables, from 1, unless a row has its
 // own; a small company that makes pumps.
 namespace condtree::sample {
-
-/// The types of card variables, as records know them.
-enum VariableType : LONG { Text = 1, Whole = 2, Decimal = 3, YesNo = 4, Date = 5 };
 
 struct Variable {
     const char16_t* name;

@@ -91,7 +91,26 @@ constexpr const char16_t* kTransitions[] = {
         PRIMARY KEY (transition_id, position))%OPTIONS%)",
 };
 
-constexpr SchemaStep kSteps[] = {kReferenceData, kTransitions};
+constexpr const char16_t* kReferenceTables[] = {
+    u"schema_version", u"card_variables", u"workflows",     u"states",         u"users",
+    u"user_groups",    u"group_members",  u"user_settings", u"document_types",
+};
+
+constexpr const char16_t* kTransitionTables[] = {u"transitions", u"condition_records"};
+
+// Names stand in lists, an entry a line.
+constexpr NameColumn kLineNames[] = {
+    {u"card_variables", u"name"}, {u"workflows", u"name"},      {u"states", u"name"},
+    {u"states", u"second_name"},  {u"users", u"login"},         {u"users", u"full_name"},
+    {u"user_groups", u"name"},    {u"document_types", u"name"}, {u"document_types", u"second_name"},
+    {u"transitions", u"name"},
+};
+
+constexpr SchemaStep kSteps[] = {
+    {kReferenceData, kReferenceTables, {}},
+    {kTransitions, kTransitionTables, {}},
+    {{}, {}, kLineNames},
+};
 
 } // namespace
 

@@ -2,6 +2,7 @@
 
 #include "ConnectionUrl.h"
 #include "SpConnect.h"
+#include "SqliteFaults.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -13,45 +14,9 @@ namespace condtree {
 
 namespace {
 
-struct KnownCode {
-    int code;
-    HRESULT result;
-};
-
-// Of the extended result codes, which tell apart what the primary ones have in common.
-constexpr KnownCode kExtendedCodes[] = {
-    {8 | 4 << 8, SP_E_CANNOT_OPEN}, // READONLY_DBMOVED: the file was removed
-};
-
-// The primary result codes; what is not here is E_FAIL.
-constexpr KnownCode kPrimaryCodes[] = {
-    {1, SP_E_CANNOT_OPEN},        // ERROR: a table or column is not there
-    {3, SP_E_PERMISSION},         // PERM
-    {5, SP_E_LOCKED},             // BUSY: another connection
-    {6, SP_E_LOCKED},             // LOCKED: another statement
-    {7, E_OUTOFMEMORY},           // NOMEM
-    {8, SP_E_PERMISSION},         // READONLY
-    {10, SP_E_CANNOT_OPEN},       // IOERR
-    {11, SP_E_CANNOT_OPEN},       // CORRUPT
-    {14, SP_E_CANNOT_OPEN},       // CANTOPEN
-    {19, SP_E_NO_ACCESS_TO_ITEM}, // CONSTRAINT
-    {20, SP_E_NO_ACCESS_TO_ITEM}, // MISMATCH
-    {23, SP_E_PERMISSION},        // AUTH
-    {26, SP_E_CANNOT_OPEN},       // NOTADB
-};
-
-HRESULT resultOf(const QSqlError& error)
+DatabaseFault faultOf(const QSqlError& error)
 {
-    const int code = error.nativeErrorCode().toInt();
-    for (const KnownCode& known : kExtendedCodes) {
-        if (known.code == code)
-            return known.result;
-    }
-    for (const KnownCode& known : kPrimaryCodes) {
-        if (known.code == (code & 0xff))
-            return known.result;
-    }
-    return E_FAIL;
+    return sqliteFault(error.nativeErrorCode().toInt());
 }
 
 HRESULT resultOfOpening(const QSqlError& error, const ConnectionUrl& url)
@@ -59,7 +24,7 @@ HRESULT resultOfOpening(const QSqlError& error, const ConnectionUrl& url)
     QFile file(url.path);
     if (QFileInfo(file).isFile() && !file.open(QIODevice::ReadOnly))
         return SP_E_PERMISSION; // for SQLite it is just a file that it cannot open
-    return resultOf(error);
+    return faultOf(error).result;
 }
 
 void configure(QSqlDatabase& handle, const ConnectionUrl& url)
@@ -82,20 +47,36 @@ constexpr const char16_t* kOnOpen[] = {
     u"PRAGMA cell_size_check = ON",
 };
 
+// A check cannot be added to a table, but a trigger can; it leaves alone what is there already.
+// GLOB ends at U+0000, which therefore is looked for by itself.
+constexpr const char16_t* kRefuseControls[] = {
+    uR"(CREATE TRIGGER %TABLE%_%COLUMN%_insert BEFORE INSERT ON %TABLE%
+        WHEN NEW.%COLUMN% GLOB '*[' || char(1) || '-' || char(31) || char(127) || ']*'
+            OR instr(NEW.%COLUMN%, char(0)) > 0
+        BEGIN SELECT RAISE(ABORT, '%TABLE%.%COLUMN% may not hold control characters'); END)",
+    uR"(CREATE TRIGGER %TABLE%_%COLUMN%_update BEFORE UPDATE OF %COLUMN% ON %TABLE%
+        WHEN NEW.%COLUMN% IS NOT OLD.%COLUMN%
+            AND (NEW.%COLUMN% GLOB '*[' || char(1) || '-' || char(31) || char(127) || ']*'
+            OR instr(NEW.%COLUMN%, char(0)) > 0)
+        BEGIN SELECT RAISE(ABORT, '%TABLE%.%COLUMN% may not hold control characters'); END)",
+};
+
 constexpr Dialect kSqlite = {
     u"QSQLITE",
     configure,
     kOnOpen,
     u"BEGIN",
     u"BEGIN IMMEDIATE",
-    u"SELECT count(*) FROM sqlite_master WHERE name = coalesce(?, name)",
+    u"SELECT name, type = 'table' FROM sqlite_master",
+    u"SELECT name FROM pragma_table_info(?)",
     u"SELECT sqlite_version()",
     tableOptions,
+    kRefuseControls,
     // A text bound as UTF-16 loses a U+FEFF at its start, or has its bytes swapped by a U+FFFE
     // there; one read as UTF-16 has U+FFFD for U+FFFE and U+FFFF.
     u"CAST(%1 AS BLOB)",
     u"CAST(? AS TEXT)",
-    resultOf,
+    faultOf,
     resultOfOpening,
 };
 

@@ -22,8 +22,7 @@ Transaction::~Transaction()
 
 void Transaction::fail(HRESULT result)
 {
-    if (SUCCEEDED(m_result))
-        m_result = result;
+    fail(DatabaseFault{result});
 }
 
 void Transaction::fail(const QSqlError& error, const char* during)
@@ -31,12 +30,18 @@ void Transaction::fail(const QSqlError& error, const char* during)
     fail(m_database.logged(error, during));
 }
 
+void Transaction::fail(const DatabaseFault& fault)
+{
+    if (SUCCEEDED(m_fault.result))
+        m_fault = fault;
+}
+
 HRESULT Transaction::commit()
 {
     if (isGood() && run(u"COMMIT"))
         m_isOpen = false;
     rollBack();
-    return m_result;
+    return m_fault.result;
 }
 
 bool Transaction::run(const char16_t* sql)

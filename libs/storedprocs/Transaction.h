@@ -24,8 +24,10 @@ public:
     ~Transaction();
 
     /// S_OK, or the first failure.
-    [[nodiscard]] HRESULT result() const { return m_result; }
-    [[nodiscard]] bool isGood() const { return SUCCEEDED(m_result) && m_isOpen; }
+    [[nodiscard]] HRESULT result() const { return m_fault.result; }
+    [[nodiscard]] bool isGood() const { return SUCCEEDED(m_fault.result) && m_isOpen; }
+    /// What the first failure was, where the database is to blame.
+    [[nodiscard]] DatabaseFault::Kind faultKind() const { return m_fault.kind; }
 
     /// Fails with a reason of the caller's; the database is not to blame.
     void fail(HRESULT result);
@@ -40,9 +42,10 @@ public:
 private:
     bool run(const char16_t* sql);
     void rollBack();
+    void fail(const DatabaseFault& fault);
 
     Database& m_database;
-    HRESULT m_result = S_OK;
+    DatabaseFault m_fault{S_OK};
     bool m_isOpen = false;
 };
 

@@ -100,13 +100,30 @@ void checkVersion(Transaction& transaction, LONG transitionId, std::int64_t load
         return;
     }
     const std::int64_t version = row.bigNumber(0);
+    const CString changedBy = row.text(1);
+    const CString changedAt = row.text(2);
     if (version == loadedVersion || !transaction.isGood())
         return;
     report.version = version;
-    report.changedBy = row.text(1);
-    report.changedAt = timeOf(row.text(2));
+    report.changedBy = changedBy;
+    report.changedAt = timeOf(changedAt);
     report.message = changedMessage(report);
     transaction.fail(SP_E_CHANGED);
+}
+
+/// What a failure of the database leaves to the user, in our words; empty when its result code says
+/// all there is to say.
+CString faultMessage(DatabaseFault::Kind kind)
+{
+    switch (kind) {
+    case DatabaseFault::Kind::DiskFull:
+        return QStringLiteral("The disk is full; your changes were not saved.");
+    case DatabaseFault::Kind::NotWritten:
+        return QStringLiteral("The database could not be written; your changes were not saved.");
+    case DatabaseFault::Kind::Other:
+        break;
+    }
+    return {};
 }
 
 void replaceRecords(Transaction& transaction, LONG transitionId,
@@ -222,6 +239,8 @@ HRESULT TransitionProcs::save(LONG transitionId, const std::vector<SpConditionRe
     const HRESULT hr = transaction.commit();
     if (SUCCEEDED(hr))
         report.version = loadedVersion + 1;
+    else if (report.message.isEmpty())
+        report.message = faultMessage(transaction.faultKind());
     return hr;
 }
 

@@ -82,14 +82,15 @@ TEST(Connecting, WithoutANameTakesTheUserOfTheOperatingSystem)
 {
     const TempDatabase database;
     (void)database.connected();
+    database.run({QStringLiteral("UPDATE users SET login = 'first'")});
+    EXPECT_EQ(loginOf(database.connected(QString())), QStringLiteral("first"));
     const passwd* const entry = getpwuid(geteuid());
-    if (entry == nullptr)
-        return; // a user without a name, as some containers have: nothing to find
-    const QString system = QString::fromLocal8Bit(entry->pw_name);
-    database.run(
-        {QStringLiteral("UPDATE users SET login = 'first'"),
-         QStringLiteral("INSERT INTO users (id, login) VALUES (5, '%1')").arg(system.toUpper())});
-    EXPECT_EQ(loginOf(database.connected(QString())), system.toUpper());
+    if (entry == nullptr) // as in some containers
+        GTEST_SKIP() << "not checked further: the system has no name for user " << geteuid();
+    const QString system = QString::fromLocal8Bit(entry->pw_name).toUpper();
+    const QString quoted = QString(system).replace(u'\'', QStringLiteral("''"));
+    database.run({QStringLiteral("INSERT INTO users (id, login) VALUES (5, '%1')").arg(quoted)});
+    EXPECT_EQ(loginOf(database.connected(QString())), system);
 }
 
 TEST(Connecting, WithoutANameTakesTheFirstUserWhereTheSystemsIsUnknown)

@@ -1,3 +1,4 @@
+#include "ReadAll.h"
 #include "TempDatabase.h"
 #include "support/QtPrinters.h"
 #include "support/WarningGuard.h"
@@ -13,13 +14,10 @@
 #include <QSqlQuery>
 
 #include <algorithm>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace condtree::test {
 namespace {
 
-constexpr auto kPermission = static_cast<HRESULT>(0x80040203U);
 constexpr auto kCannotOpen = static_cast<HRESULT>(0x80040206U);
 constexpr auto kLocked = static_cast<HRESULT>(0x8004020AU);
 
@@ -30,45 +28,6 @@ HRESULT resultOf(const QString& url)
     return hr;
 }
 
-/// What every reading procedure answers, in the order of their numbers, then the transitions.
-std::vector<HRESULT> readAll(const ManagerPtr& manager)
-{
-    AutoLst<Lst<VarDef*>> variables;
-    AutoLst<Lst<SpWorkflowState*>> states;
-    AutoLst<Lst<SpuLightData*>> users;
-    AutoLst<Lst<SpuLightData*>> groups;
-    AutoLst<Lst<SpDocType::DocType*>> types;
-    SpSettingsData settings;
-    std::vector<SpTransition> transitions;
-    LONG id = 0;
-    std::vector<HRESULT> results = {
-        procOf<SpUpdateVariableDefinition>(manager, SPID_VARIABLE_DEFINITION)
-            .mhGetVariables(variables, false),
-        procOf<SpUser>(manager, SPID_USER).mhGetUserID(u"admin", id),
-        procOf<SpWorkflow>(manager, SPID_WORKFLOW).mhGetAllStatesInAllWorkflows(0, states),
-        procOf<SpUserMgr>(manager, SPID_USER_MGR).mhGetUsers(users, 0, true),
-        procOf<SpUserMgr>(manager, SPID_USER_MGR).mhGetGroups(groups),
-        procOf<SpSettings>(manager, SPID_SETTINGS).mhGetUserSettings(1, settings, false),
-        procOf<SpDocType>(manager, SPID_DOC_TYPE).mhGetDocTypes(types),
-        SpTransitionsOf(manager.get())->mhGetTransitions(transitions),
-    };
-    EXPECT_EQ(results[0] == S_OK, !variables.IsEmpty()) << "all of a list or nothing";
-    EXPECT_EQ(results[2] == S_OK, !states.IsEmpty());
-    EXPECT_EQ(results[3] == S_OK, !users.IsEmpty());
-    EXPECT_EQ(results[7] == S_OK, !transitions.empty());
-    for (const SpTransition& transition : transitions) {
-        SpCondition condition;
-        results.push_back(
-            SpTransitionsOf(manager.get())->mhLoadCondition(transition.id, condition));
-    }
-    return results;
-}
-
-std::vector<HRESULT> all(std::size_t count, HRESULT hr)
-{
-    return std::vector<HRESULT>(count, hr);
-}
-
 class Faults : public testing::Test {
 protected:
     void SetUp() override { ASSERT_EQ(SpMakeSampleDatabase(database.url()), S_OK); }
@@ -77,7 +36,7 @@ protected:
 
 TEST_F(Faults, AreNoneInAGoodDatabase)
 {
-    EXPECT_EQ(readAll(database.connected()), all(8 + 12, S_OK));
+    EXPECT_EQ(readAll(database.connected()), everythingRead(S_OK));
 }
 
 TEST_F(Faults, AMissingFolderCannotBeOpened)
@@ -231,7 +190,7 @@ TEST_F(Faults, ALockedDatabaseIsLocked)
         EXPECT_EQ(SpTransitionsOf(manager.get())->mhLoadCondition(1, condition), kLocked);
     }
     ASSERT_TRUE(other.run(QStringLiteral("COMMIT")));
-    EXPECT_EQ(readAll(manager), all(8 + 12, S_OK)) << "tried again, it works";
+    EXPECT_EQ(readAll(manager), everythingRead(S_OK)) << "tried again, it works";
 }
 
 TEST_F(Faults, AWriterElsewhereLocksSavingButNotLoading)
@@ -239,7 +198,7 @@ TEST_F(Faults, AWriterElsewhereLocksSavingButNotLoading)
     const ManagerPtr manager = database.connected();
     RawConnection other(database.path());
     ASSERT_TRUE(other.run(QStringLiteral("BEGIN IMMEDIATE")));
-    EXPECT_EQ(readAll(manager), all(8 + 12, S_OK));
+    EXPECT_EQ(readAll(manager), everythingRead(S_OK));
     SpSaveReport report;
     {
         const ExpectWarning log(QStringLiteral("database is locked"));
@@ -285,95 +244,6 @@ TEST_F(Faults, ALockIsWaitedForAsLongAsTheUrlSays)
     EXPECT_EQ(SpTransitionsOf(manager.get())->mhSaveCondition(1, {}, 1, report), kLocked);
     EXPECT_GE(timer.elapsed(), 100);
     EXPECT_LT(timer.elapsed(), 60'000);
-}
-
-/// While it lives, the process is a user without privileges, where it was root: root may do
-/// anything to any file.
-class Unprivileged {
-public:
-    Unprivileged()
-    {
-        if (geteuid() == 0) {
-            EXPECT_EQ(seteuid(65534), 0);
-        }
-    }
-    Unprivileged(const Unprivileged&) = delete;
-    Unprivileged& operator=(const Unprivileged&) = delete;
-    ~Unprivileged()
-    {
-        if (getuid() == 0) {
-            EXPECT_EQ(seteuid(0), 0);
-        }
-    }
-};
-
-void setMode(const QString& path, mode_t mode)
-{
-    EXPECT_EQ(chmod(path.toLocal8Bit().constData(), mode), 0);
-}
-
-TEST_F(Faults, AReadOnlyDatabaseIsReadButNotSavedTo)
-{
-    setMode(database.path(), 0444);
-    setMode(database.folder(), 0555);
-    const QByteArray before = database.bytes();
-    {
-        const Unprivileged nobody;
-        const ManagerPtr manager = database.connected();
-        ASSERT_NE(manager, nullptr);
-        EXPECT_EQ(readAll(manager), all(8 + 12, S_OK));
-        const ExpectWarning log(QStringLiteral("readonly"));
-        SpSaveReport report;
-        EXPECT_EQ(SpTransitionsOf(manager.get())->mhSaveCondition(1, {}, 1, report), kPermission);
-        EXPECT_EQ(SpMakeSampleDatabase(database.url()), S_FALSE);
-    }
-    EXPECT_EQ(database.bytes(), before);
-    setMode(database.folder(), 0755);
-}
-
-TEST_F(Faults, AFolderThatMayNotBeWrittenMakesItsDatabaseReadOnly)
-{
-    setMode(database.path(), 0666);
-    setMode(database.folder(), 0555);
-    {
-        const Unprivileged nobody;
-        const ManagerPtr manager = database.connected();
-        ASSERT_NE(manager, nullptr);
-        const ExpectWarning log(QStringLiteral("failed"));
-        SpSaveReport report;
-        const HRESULT hr = SpTransitionsOf(manager.get())->mhSaveCondition(1, {}, 1, report);
-        EXPECT_TRUE(hr == kPermission || hr == kCannotOpen) << std::hex << hr;
-        EXPECT_EQ(resultOf(SpSqliteUrl(database.folder() + QStringLiteral("/new.db"))),
-                  kCannotOpen);
-    }
-    setMode(database.folder(), 0755);
-}
-
-TEST_F(Faults, AnUnreadableDatabaseIsForbidden)
-{
-    setMode(database.path(), 0000);
-    setMode(database.folder(), 0755);
-    {
-        const Unprivileged nobody;
-        const ExpectWarning log(QStringLiteral("opening failed"));
-        EXPECT_EQ(resultOf(database.url()), kPermission);
-    }
-    setMode(database.path(), 0644);
-}
-
-TEST_F(Faults, AnOldDatabaseThatIsReadOnlyCannotBeBroughtUpToDate)
-{
-    database.run({QStringLiteral("DROP TABLE condition_records"),
-                  QStringLiteral("DROP TABLE transitions"),
-                  QStringLiteral("UPDATE schema_version SET version = 1")});
-    setMode(database.path(), 0444);
-    setMode(database.folder(), 0555);
-    {
-        const Unprivileged nobody;
-        const ExpectWarning log(QStringLiteral("readonly"));
-        EXPECT_EQ(resultOf(database.url()), kPermission);
-    }
-    setMode(database.folder(), 0755);
 }
 
 } // namespace

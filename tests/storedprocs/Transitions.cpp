@@ -271,5 +271,17 @@ TEST_F(Transitions, AnyCodeUnitsComeBackOrAreRefused)
     }));
 }
 
+TEST_F(Transitions, AReportNamesNobodyWhenItCannotReadWhoSaved)
+{
+    database.run({QStringLiteral("ALTER TABLE transitions RENAME TO strict_transitions"),
+                  QStringLiteral("CREATE TABLE transitions AS SELECT * FROM strict_transitions"),
+                  QStringLiteral("UPDATE transitions SET version = 9, changed_by = x'41'")});
+    const ExpectWarning log(QStringLiteral("holds no text"));
+    SpSaveReport report;
+    EXPECT_EQ(transitions().mhSaveCondition(11, kCondition, 1, report), kNoAccess);
+    EXPECT_EQ(report.version, 0);
+    EXPECT_EQ(report.message, QString());
+}
+
 } // namespace
 } // namespace condtree::test
