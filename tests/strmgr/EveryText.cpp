@@ -1,6 +1,9 @@
 // Nothing that the code shows may be missing in the catalogue of texts, and nothing in it may be
 // left over. This test sees the folders that own texts; the library under test does not.
 #include <condtree/model/ControlText.h>
+#include <condtree/platform/ResultTexts.h>
+#include <condtree/storedprocs/SpConnect.h>
+#include <condtree/storedprocs/SpTransitions.h>
 #include <condtree/values/OperatorCatalogue.h>
 
 #include <gtest/gtest.h>
@@ -57,6 +60,19 @@ Texts catalogue()
     return tableOf(CONDTREE_TEXTS, 0, 1, 2, 3);
 }
 
+/// The messages of the data-access library's own codes.
+Texts textsOfTheLibrary()
+{
+    ResultTexts added;
+    SpAddResultTexts(added);
+    Texts texts;
+    for (const HRESULT code : {SP_E_CHANGED, SP_E_BAD_TEXT, SP_E_TOO_LONG}) {
+        if (const ResultText* text = added.find(code))
+            texts.emplace(text->key, text->section, text->id, text->defaultText);
+    }
+    return texts;
+}
+
 Texts textsOfTheCode()
 {
     Texts texts = tableOf(CONDTREE_RESULT_CODES, 3, 4, 1, 2);
@@ -66,6 +82,8 @@ Texts textsOfTheCode()
     for (const OperatorEntry& entry : operatorCatalogue())
         texts.emplace(QStringLiteral("OpName"), QStringLiteral("Search"), entry.command,
                       QString::fromUtf16(entry.name));
+    const Texts library = textsOfTheLibrary();
+    texts.insert(library.begin(), library.end());
     return texts;
 }
 

@@ -272,6 +272,24 @@ Mindestens erforderlich ist:</translation>
     </message>
 </context>
 <context>
+    <name>StoredProcs</name>
+    <message>
+        <source>The condition was saved by somebody else after it was loaded; your changes were not saved. Load the condition again and repeat your changes.</source>
+        <comment>StoredProcs 1</comment>
+        <translation>Die Bedingung wurde von jemand anderem gespeichert, nachdem sie geladen worden war; Ihre Änderungen wurden nicht gespeichert. Laden Sie die Bedingung neu, und wiederholen Sie Ihre Änderungen.</translation>
+    </message>
+    <message>
+        <source>A text holds a character that the database cannot hold; your changes were not saved. Remove the character and save again.</source>
+        <comment>StoredProcs 2</comment>
+        <translation>Ein Text enthält ein Zeichen, das die Datenbank nicht aufnehmen kann; Ihre Änderungen wurden nicht gespeichert. Entfernen Sie das Zeichen, und speichern Sie erneut.</translation>
+    </message>
+    <message>
+        <source>A text is larger than 16 MiB, which the database cannot hold; your changes were not saved. Shorten the text and save again.</source>
+        <comment>StoredProcs 3</comment>
+        <translation>Ein Text ist größer als 16 MiB und passt damit nicht in die Datenbank; Ihre Änderungen wurden nicht gespeichert. Kürzen Sie den Text, und speichern Sie erneut.</translation>
+    </message>
+</context>
+<context>
     <name>Workflow</name>
     <message>
         <source>FilePath</source>

@@ -272,6 +272,24 @@ Los requisitos mínimos son los siguientes:</translation>
     </message>
 </context>
 <context>
+    <name>StoredProcs</name>
+    <message>
+        <source>The condition was saved by somebody else after it was loaded; your changes were not saved. Load the condition again and repeat your changes.</source>
+        <comment>StoredProcs 1</comment>
+        <translation>Otra persona guardó la condición después de cargarla usted; los cambios que usted hizo no se guardaron. Vuelva a cargar la condición y repita los cambios.</translation>
+    </message>
+    <message>
+        <source>A text holds a character that the database cannot hold; your changes were not saved. Remove the character and save again.</source>
+        <comment>StoredProcs 2</comment>
+        <translation>Un texto contiene un carácter que la base de datos no puede almacenar; los cambios no se guardaron. Quite el carácter y vuelva a guardar.</translation>
+    </message>
+    <message>
+        <source>A text is larger than 16 MiB, which the database cannot hold; your changes were not saved. Shorten the text and save again.</source>
+        <comment>StoredProcs 3</comment>
+        <translation>Un texto ocupa más de 16 MiB, que es más de lo que la base de datos puede almacenar; los cambios no se guardaron. Acorte el texto y vuelva a guardar.</translation>
+    </message>
+</context>
+<context>
     <name>Workflow</name>
     <message>
         <source>FilePath</source>

@@ -11,7 +11,7 @@
     <message>
         <source>The method was successfully executed but returned &apos;false&apos;.</source>
         <comment>ErrorCodes 1</comment>
-        <translation>La méthode a été exécutée avec succès, mais a renvoyé « false ».</translation>
+        <translation>La méthode a été exécutée avec succès, mais a renvoyé «&#xa0;false&#xa0;».</translation>
     </message>
     <message>
         <source>The program used an object without initializing it properly first.</source>
@@ -56,7 +56,7 @@
     <message>
         <source>Error accessing the revision management system. Network connection down?</source>
         <comment>ErrorCodes 11</comment>
-        <translation>Erreur d’accès au système de gestion des révisions. La connexion réseau est-elle interrompue ?</translation>
+        <translation>Erreur d’accès au système de gestion des révisions. La connexion réseau est-elle interrompue&#xa0;?</translation>
     </message>
     <message>
         <source>An attempt was made to access a record in the database that is locked by another user.
@@ -115,14 +115,14 @@ En général, il suffit de recommencer l’opération.</translation>
     <message>
         <source>Supported versions:</source>
         <comment>ErrorCodes 196</comment>
-        <translation>Versions prises en charge :</translation>
+        <translation>Versions prises en charge&#xa0;:</translation>
     </message>
     <message>
         <source>The operating system version is not supported
 The following is the minimum requirement:</source>
         <comment>ErrorCodes 274</comment>
         <translation>La version du système d’exploitation n’est pas prise en charge
-Voici la configuration minimale requise :</translation>
+Voici la configuration minimale requise&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -269,6 +269,24 @@ Voici la configuration minimale requise :</translation>
         <source>Binary Equal To</source>
         <comment>OpName 139</comment>
         <translation>Oui/Non égal à</translation>
+    </message>
+</context>
+<context>
+    <name>StoredProcs</name>
+    <message>
+        <source>The condition was saved by somebody else after it was loaded; your changes were not saved. Load the condition again and repeat your changes.</source>
+        <comment>StoredProcs 1</comment>
+        <translation>La condition a été enregistrée par quelqu’un d’autre après son chargement ; vos modifications n’ont pas été enregistrées. Rechargez la condition et refaites vos modifications.</translation>
+    </message>
+    <message>
+        <source>A text holds a character that the database cannot hold; your changes were not saved. Remove the character and save again.</source>
+        <comment>StoredProcs 2</comment>
+        <translation>Un texte contient un caractère que la base de données ne peut pas stocker ; vos modifications n’ont pas été enregistrées. Supprimez ce caractère et enregistrez à nouveau.</translation>
+    </message>
+    <message>
+        <source>A text is larger than 16 MiB, which the database cannot hold; your changes were not saved. Shorten the text and save again.</source>
+        <comment>StoredProcs 3</comment>
+        <translation>Un texte dépasse 16 Mio, ce que la base de données ne peut pas stocker ; vos modifications n’ont pas été enregistrées. Raccourcissez le texte et enregistrez à nouveau.</translation>
     </message>
 </context>
 <context>

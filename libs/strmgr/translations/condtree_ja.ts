@@ -272,6 +272,24 @@ The following is the minimum requirement:</source>
     </message>
 </context>
 <context>
+    <name>StoredProcs</name>
+    <message>
+        <source>The condition was saved by somebody else after it was loaded; your changes were not saved. Load the condition again and repeat your changes.</source>
+        <comment>StoredProcs 1</comment>
+        <translation>条件は、読み込んだ後にほかのユーザーによって保存されました。こちらで行った変更は保存されていません。条件を読み込み直して、変更をやり直してください。</translation>
+    </message>
+    <message>
+        <source>A text holds a character that the database cannot hold; your changes were not saved. Remove the character and save again.</source>
+        <comment>StoredProcs 2</comment>
+        <translation>データベースに格納できない文字がテキストに含まれています。変更は保存されていません。その文字を取り除いて、もう一度保存してください。</translation>
+    </message>
+    <message>
+        <source>A text is larger than 16 MiB, which the database cannot hold; your changes were not saved. Shorten the text and save again.</source>
+        <comment>StoredProcs 3</comment>
+        <translation>テキストがデータベースに格納できる上限の 16 MiB を超えています。変更は保存されていません。テキストを短くして、もう一度保存してください。</translation>
+    </message>
+</context>
+<context>
     <name>Workflow</name>
     <message>
         <source>FilePath</source>

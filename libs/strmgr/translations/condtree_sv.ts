@@ -272,6 +272,24 @@ Följande är minimikravet:</translation>
     </message>
 </context>
 <context>
+    <name>StoredProcs</name>
+    <message>
+        <source>The condition was saved by somebody else after it was loaded; your changes were not saved. Load the condition again and repeat your changes.</source>
+        <comment>StoredProcs 1</comment>
+        <translation>Villkoret sparades av någon annan efter att det hade lästs in; dina ändringar sparades inte. Läs in villkoret igen och gör om dina ändringar.</translation>
+    </message>
+    <message>
+        <source>A text holds a character that the database cannot hold; your changes were not saved. Remove the character and save again.</source>
+        <comment>StoredProcs 2</comment>
+        <translation>En text innehåller ett tecken som databasen inte kan lagra; dina ändringar sparades inte. Ta bort tecknet och spara igen.</translation>
+    </message>
+    <message>
+        <source>A text is larger than 16 MiB, which the database cannot hold; your changes were not saved. Shorten the text and save again.</source>
+        <comment>StoredProcs 3</comment>
+        <translation>En text är större än 16 MiB, vilket databasen inte kan lagra; dina ändringar sparades inte. Korta texten och spara igen.</translation>
+    </message>
+</context>
+<context>
     <name>Workflow</name>
     <message>
         <source>FilePath</source>
