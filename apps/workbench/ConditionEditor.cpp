@@ -24,6 +24,16 @@ QLabel* newLabel(QWidget* parent, const char* name)
 
 } // namespace
 
+QString ConditionEditor::lastChange(const SpTransition& transition)
+{
+    if (transition.changedAt.isNull())
+        return tr("Never changed");
+    const QString when =
+        QLocale().toString(transition.changedAt.toLocalTime(), QLocale::ShortFormat);
+    //: %1 is a login name, %2 a date and time
+    return tr("Last changed by %1, %2").arg(transition.changedBy.str(), when);
+}
+
 ConditionEditor::ConditionEditor(const Database& database, Services services, QWidget* parent)
     : QWidget(parent)
     , m_database(database)
@@ -34,6 +44,7 @@ ConditionEditor::ConditionEditor(const Database& database, Services services, QW
     , m_control(new ConditionControl(database.manager(), this, std::move(services)))
 {
     m_control->setObjectName(QStringLiteral("condition"));
+    //: What the rows are to those who hear the window
     m_control->setAccessibleName(tr("Condition"));
     auto* layout = new QVBoxLayout(this);
     const int gap = fontMetrics().height() / 3;
@@ -131,17 +142,17 @@ std::optional<ConditionRecords> ConditionEditor::fill(const ConditionRecords& re
         m_failures.append(stored.failure().text);
     QStringList warnings = m_failures;
     if (stored.hasValue() && stored.value().size() < records.size())
-        warnings.append(tr("Saving will drop %1 of the %2 records that were read.")
-                            .arg(records.size() - stored.value().size())
+        warnings.append(tr("Saving will drop %n of the %1 record(s) that were read.", nullptr,
+                           static_cast<int>(records.size() - stored.value().size()))
                             .arg(records.size()));
     const auto changed = stored.hasValue() ? rowsChangedBySaving(records, stored.value())
                                            : std::vector<std::size_t>();
     if (!changed.empty())
-        warnings.append(tr("Saving will store something else than was read: %1 of the %2 records, "
-                           "%3.")
-                            .arg(changed.size())
-                            .arg(records.size())
-                            .arg(rowNumbers(changed)));
+        //: %n counts the records that change, %1 all; %2 names the first: "3", "1, 2 and 9"
+        warnings.append(tr("Saving will store something else than was read: %n of the %1 "
+                           "record(s), row(s) %2.",
+                           nullptr, static_cast<int>(changed.size()))
+                            .arg(QString::number(records.size()), rowNumbers(changed)));
     showWarnings(warnings);
     return stored.hasValue() ? std::optional(stored.value()) : std::nullopt;
 }
@@ -170,16 +181,11 @@ void ConditionEditor::showHeader()
         return;
     }
     m_title->setText(m_transition->name.str());
-    m_states->setText(QStringLiteral("%1: %2 \u2192 %3")
+    //: A workflow and the states that a transition goes from and to
+    m_states->setText(tr("%1: %2 → %3")
                           .arg(m_transition->workflow.str(), m_transition->fromState.str(),
                                m_transition->toState.str()));
-    const QLocale locale;
-    m_lastChange->setText(m_transition->changedAt.isNull()
-                              ? tr("Never changed")
-                              : tr("Last changed by %1, %2")
-                                    .arg(m_transition->changedBy.str(),
-                                         locale.toString(m_transition->changedAt.toLocalTime(),
-                                                         QLocale::ShortFormat)));
+    m_lastChange->setText(lastChange(*m_transition));
 }
 
 void ConditionEditor::showWarnings(const QStringList& warnings)

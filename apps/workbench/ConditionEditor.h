@@ -50,6 +50,7 @@ private:
     std::optional<ConditionRecords> fill(const ConditionRecords& records);
     void compare();
     void setUnsaved(bool isUnsaved);
+    [[nodiscard]] static QString lastChange(const SpTransition& transition);
     void showHeader();
     void showWarnings(const QStringList& warnings);
     void styleHeader();

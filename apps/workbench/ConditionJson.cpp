@@ -3,6 +3,7 @@
 #include "JsonFlaws.h"
 #include "Messages.h"
 
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -17,7 +18,7 @@ namespace {
 
 constexpr const char* kFormat = "condtree-condition";
 constexpr int kVersion = 1;
-constexpr qsizetype kMostValues = 4'000'000;
+constexpr int kMostValues = 4'000'000;
 
 using Number = LONG SpConditionRecord::*;
 using Text = SpStr SpConditionRecord::*;
@@ -39,22 +40,33 @@ constexpr std::array<Field, 7> kFields{{
     {"operator", &SpConditionRecord::op},
 }};
 
-/// What no file can carry of a text, by its Unicode number; none when all can be.
-std::optional<QString> flawOfText(const QString& text)
+QString translated(const char* text)
 {
-    const auto name = [&](qsizetype i) {
-        return QStringLiteral("U+%1").arg(QString::number(text[i].unicode(), 16).toUpper(), 4,
-                                          QLatin1Char('0'));
+    return QCoreApplication::translate("ConditionJson", text);
+}
+
+/// A character that no file can carry.
+struct TextFlaw {
+    bool isSurrogate;
+    QString name; ///< The Unicode number: U+0000.
+};
+
+std::optional<TextFlaw> flawOfText(const QString& text)
+{
+    const auto flawAt = [&](qsizetype i) {
+        const QString number = QString::number(text[i].unicode(), 16).toUpper();
+        return TextFlaw{text[i].isSurrogate(),
+                        QStringLiteral("U+%1").arg(number, 4, QLatin1Char('0'))};
     };
     for (qsizetype i = 0; i < text.size(); ++i) {
         if (text[i].isNull())
-            return name(i);
+            return flawAt(i);
         if (!text[i].isSurrogate())
             continue;
         const bool isPair =
             text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate();
         if (!isPair)
-            return QStringLiteral("the unpaired surrogate %1").arg(name(i));
+            return flawAt(i);
         ++i;
     }
     return std::nullopt;
@@ -84,6 +96,19 @@ void appendText(QByteArray& json, const QString& text)
     json += '"';
 }
 
+Failure cannotCarry(std::size_t row, const Field& field, const TextFlaw& flaw)
+{
+    //: %2 is the field's name in the file, %3 a character as U+0000
+    const char* const plain = QT_TRANSLATE_NOOP(
+        "ConditionJson", "row %1: the field %2 holds %3, which a file cannot carry");
+    //: %2 is the field's name in the file, %3 a character as U+D800
+    const char* const surrogate = QT_TRANSLATE_NOOP(
+        "ConditionJson",
+        "row %1: the field %2 holds the unpaired surrogate %3, which a file cannot carry");
+    return {translated(flaw.isSurrogate ? surrogate : plain)
+                .arg(QString::number(row + 1), QLatin1String(field.key), flaw.name)};
+}
+
 MaybeFailure appendRecord(QByteArray& json, const SpConditionRecord& record, std::size_t row)
 {
     char separator = '{';
@@ -96,48 +121,66 @@ MaybeFailure appendRecord(QByteArray& json, const SpConditionRecord& record, std
         }
         const QString text = (record.*std::get<Text>(field.member)).str();
         if (const auto flaw = flawOfText(text))
-            return Failure{QStringLiteral("row %1: the %2 holds %3, which a file cannot carry")
-                               .arg(row + 1)
-                               .arg(QLatin1String(field.key), *flaw)};
+            return cannotCarry(row, field, *flaw);
         appendText(json, text);
     }
     json += '}';
     return std::nullopt;
 }
 
-QString typeName(const QJsonValue& value)
+/// What a value is in a message.
+QString typeName(QJsonValue::Type type)
 {
-    switch (value.type()) {
+    switch (type) {
     case QJsonValue::Bool:
-        return QStringLiteral("true or false");
+        //: Behind "a number is expected, not"; so are the other kinds of value
+        return QCoreApplication::translate("ConditionJson", "true or false");
     case QJsonValue::Double:
-        return QStringLiteral("a number");
+        return QCoreApplication::translate("ConditionJson", "a number");
     case QJsonValue::String:
-        return QStringLiteral("a text");
+        return QCoreApplication::translate("ConditionJson", "a text");
     case QJsonValue::Array:
-        return QStringLiteral("a list");
+        return QCoreApplication::translate("ConditionJson", "a list");
     case QJsonValue::Object:
-        return QStringLiteral("an object");
+        return QCoreApplication::translate("ConditionJson", "an object");
     default:
-        return QStringLiteral("null");
+        //: The word of JSON for no value
+        return QCoreApplication::translate("ConditionJson", "null");
     }
 }
 
-Failure wrongType(const QString& place, const char* expected, const QJsonValue& found)
+/// One of the types that are ever expected: a number, a text, a list, an object.
+QString expectedText(QJsonValue::Type expected)
 {
-    return {QStringLiteral("%1: %2 is expected, not %3")
-                .arg(place, QLatin1String(expected), typeName(found))};
+    switch (expected) {
+    case QJsonValue::Double:
+        return QCoreApplication::translate("ConditionJson", "a number is expected, not %1");
+    case QJsonValue::String:
+        return QCoreApplication::translate("ConditionJson", "a text is expected, not %1");
+    case QJsonValue::Array:
+        return QCoreApplication::translate("ConditionJson", "a list is expected, not %1");
+    default:
+        return QCoreApplication::translate("ConditionJson", "an object is expected, not %1");
+    }
+}
+
+/// An empty place is the whole file.
+Failure wrongType(const QString& place, QJsonValue::Type expected, const QJsonValue& found)
+{
+    const QString what = expectedText(expected).arg(typeName(found.type()));
+    return {place.isEmpty() ? what : atPlace(place, what)};
 }
 
 MaybeFailure readNumber(const QString& place, const QJsonValue& value, LONG& number)
 {
     if (!value.isDouble())
-        return wrongType(place, "a number", value);
+        return wrongType(place, QJsonValue::Double, value);
     const double read = value.toDouble();
     if (read != std::trunc(read) || read < std::numeric_limits<LONG>::min()
         || read > std::numeric_limits<LONG>::max())
-        return Failure{QStringLiteral("%1: %2 is no whole number of 32 bits")
-                           .arg(place, QString::number(read, 'g', 15))};
+        return Failure{atPlace(
+            place, QCoreApplication::translate("ConditionJson", "%1 is no whole number of 32 bits")
+                       .arg(QString::number(read, 'g', 15)))};
     number = static_cast<LONG>(read);
     return std::nullopt;
 }
@@ -145,9 +188,16 @@ MaybeFailure readNumber(const QString& place, const QJsonValue& value, LONG& num
 MaybeFailure readText(const QString& place, const QJsonValue& value, SpStr& text)
 {
     if (!value.isString())
-        return wrongType(place, "a text", value);
-    if (const auto flaw = flawOfText(value.toString()))
-        return Failure{QStringLiteral("%1: the text holds %2").arg(place, *flaw)};
+        return wrongType(place, QJsonValue::String, value);
+    if (const auto flaw = flawOfText(value.toString())) {
+        //: %1 is a character as U+0000
+        const char* const plain = QT_TRANSLATE_NOOP("ConditionJson", "the text holds %1");
+        //: %1 is a character as U+D800
+        const char* const surrogate =
+            QT_TRANSLATE_NOOP("ConditionJson", "the text holds the unpaired surrogate %1");
+        return Failure{
+            atPlace(place, translated(flaw->isSurrogate ? surrogate : plain).arg(flaw->name))};
+    }
     text = value.toString();
     return std::nullopt;
 }
@@ -156,17 +206,18 @@ MaybeFailure readText(const QString& place, const QJsonValue& value, SpStr& text
 /// whole.
 MaybeFailure checkKeys(const QString& place, const QJsonObject& object, const QStringList& keys)
 {
-    const auto at = [&](const char* separator) {
-        return place.isEmpty() ? QString() : place + QLatin1String(separator);
-    };
     for (const QString& key : keys) {
         if (!object.contains(key))
-            return Failure{QStringLiteral("%1%2: the field is missing").arg(at("."), key)};
+            return Failure{
+                atPlace(place.isEmpty() ? key : place + QLatin1Char('.') + key,
+                        QCoreApplication::translate("ConditionJson", "the field is missing"))};
     }
     for (auto i = object.begin(); i != object.end(); ++i) {
-        if (!keys.contains(i.key()))
-            return Failure{
-                QStringLiteral("%1the field %2 is unknown").arg(at(": "), quoted(i.key()))};
+        if (keys.contains(i.key()))
+            continue;
+        const QString what = QCoreApplication::translate("ConditionJson", "the field %1 is unknown")
+                                 .arg(quoted(i.key()));
+        return Failure{place.isEmpty() ? what : atPlace(place, what)};
     }
     return std::nullopt;
 }
@@ -183,7 +234,7 @@ Outcome<SpConditionRecord> readRecord(const QString& place, const QJsonValue& va
                                       const QStringList& keys)
 {
     if (!value.isObject())
-        return wrongType(place, "an object", value);
+        return wrongType(place, QJsonValue::Object, value);
     const QJsonObject object = value.toObject();
     if (const auto failure = checkKeys(place, object, keys))
         return *failure;
@@ -202,6 +253,13 @@ Outcome<SpConditionRecord> readRecord(const QString& place, const QJsonValue& va
     return record;
 }
 
+Failure unexpected(const QString& place, const QString& expected, const QString& found)
+{
+    //: %1 and %2 are values: 1, "condtree-condition"
+    return {atPlace(place, QCoreApplication::translate("ConditionJson", "%1 is expected, not %2")
+                               .arg(expected, found))};
+}
+
 MaybeFailure checkHead(const QJsonObject& root)
 {
     const QString format = QStringLiteral("format");
@@ -210,17 +268,16 @@ MaybeFailure checkHead(const QJsonObject& root)
     if (const auto failure = checkKeys({}, root, QStringList{format, version, records}))
         return failure;
     if (!root[format].isString())
-        return wrongType(format, "a text", root[format]);
+        return wrongType(format, QJsonValue::String, root[format]);
     if (root[format].toString() != QLatin1String(kFormat))
-        return Failure{QStringLiteral("format: %1 is expected, not %2")
-                           .arg(quoted(QLatin1String(kFormat)), quoted(root[format].toString()))};
+        return unexpected(format, quoted(QLatin1String(kFormat)), quoted(root[format].toString()));
     LONG number = 0;
     if (const auto failure = readNumber(version, root[version], number))
         return failure;
     if (number != kVersion)
-        return Failure{QStringLiteral("version: %1 is expected, not %2").arg(kVersion).arg(number)};
+        return unexpected(version, QString::number(kVersion), QString::number(number));
     if (!root[records].isArray())
-        return wrongType(records, "a list", root[records]);
+        return wrongType(records, QJsonValue::Array, root[records]);
     return std::nullopt;
 }
 
@@ -228,32 +285,36 @@ MaybeFailure checkHead(const QJsonObject& root)
 Failure failureAt(const QByteArray& json, const QString& what, qsizetype offset)
 {
     const qsizetype at = std::min(offset, json.size());
-    return {QStringLiteral("%1 (byte %2, line %3)")
-                .arg(what)
-                .arg(at)
-                .arg(QByteArrayView(json).first(at).count('\n') + 1)};
+    const qsizetype line = QByteArrayView(json).first(at).count('\n') + 1;
+    //: %1 is what is wrong in a file, %2 and %3 the place
+    return {QCoreApplication::translate("ConditionJson", "%1 (byte %2, line %3)")
+                .arg(what, QString::number(at), QString::number(line))};
 }
 
 Failure notJson(const QByteArray& json, const QString& what, qsizetype offset)
 {
-    return failureAt(json, QStringLiteral("not JSON: %1").arg(what), offset);
+    //: %1 is the reason, perhaps in the words of the toolkit
+    const QString sentence = QCoreApplication::translate("ConditionJson", "not JSON: %1").arg(what);
+    return failureAt(json, sentence, offset);
 }
 
 QString tooManyValues()
 {
-    return QStringLiteral("more than %1 values").arg(kMostValues);
+    //: %1 is 4000000; values are objects, lists and whatever stands in them
+    return QCoreApplication::translate("ConditionJson", "more than %1 values").arg(kMostValues);
 }
 
 MaybeFailure checkEncoding(const QByteArray& json)
 {
     if (json.isEmpty())
-        return Failure{QStringLiteral("the file is empty")};
+        return Failure{QCoreApplication::translate("ConditionJson", "the file is empty")};
     // The first character of a JSON text is ASCII, so that a null byte beside it tells wider
     // encodings.
     const bool isWide = json.startsWith("\xFF\xFE") || json.startsWith("\xFE\xFF")
                         || json.first(std::min<qsizetype>(json.size(), 2)).contains('\0');
     if (isWide)
-        return Failure{QStringLiteral("the text is in UTF-16 or UTF-32; UTF-8 is expected")};
+        return Failure{QCoreApplication::translate(
+            "ConditionJson", "the text is in UTF-16 or UTF-32; UTF-8 is expected")};
     return std::nullopt;
 }
 
@@ -288,14 +349,18 @@ Outcome<QByteArray> conditionToJson(const ConditionRecords& records)
         if (const auto failure = appendRecord(json, records[i], i))
             return *failure;
         if (json.size() > kLargestJson - end.size())
-            return Failure{QStringLiteral("the condition takes more than the %1 bytes that a file "
-                                          "may have")
+            return Failure{QCoreApplication::translate(
+                               "ConditionJson",
+                               "the condition takes more than the %1 bytes that a file may have")
                                .arg(kLargestJson)};
     }
     json += records.empty() ? "]}\n" : end;
     if (findTooManyValues(json, kMostValues))
+        //: %1 is 4000000
         return Failure{
-            QStringLiteral("the condition has %1, which no file may have").arg(tooManyValues())};
+            QCoreApplication::translate(
+                "ConditionJson", "the condition has more than %1 values, which no file may have")
+                .arg(kMostValues)};
     return json;
 }
 
@@ -305,7 +370,7 @@ Outcome<ConditionRecords> conditionFromJson(const QByteArray& json)
     if (!document.hasValue())
         return document.failure();
     if (!document.value().isObject())
-        return Failure{QStringLiteral("an object is expected, not a list")};
+        return wrongType({}, QJsonValue::Object, document.value().array());
     const QJsonObject root = document.value().object();
     if (const auto failure = checkHead(root))
         return *failure;

@@ -1,11 +1,13 @@
 #include "Database.h"
 
 #include "Messages.h"
+#include "SaveRefusal.h"
 
 #include <condtree/refdata/ErrorText.h>
 #include <condtree/storedprocs/SpConnect.h>
 #include <condtree/storedprocs/SpSample.h>
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -47,12 +49,14 @@ QString fileOf(const QString& url)
 
 Failure failureOf(const QString& what, HRESULT code)
 {
-    return {QStringLiteral("%1: %2").arg(what, ResultCodeText(code).trimmed())};
+    return {atPlace(what, ResultCodeText(code).trimmed())};
 }
 
 Failure cannotOpen(const QString& url, HRESULT code)
 {
-    return failureOf(QStringLiteral("cannot open the database %1").arg(withoutPassword(url)), code);
+    return failureOf(QCoreApplication::translate("Database", "cannot open the database %1")
+                         .arg(withoutPassword(url)),
+                     code);
 }
 
 } // namespace
@@ -62,11 +66,12 @@ Outcome<std::unique_ptr<Database>> Database::open(const QString& url, const QStr
     // Only the sample is made; a mistyped name must not become a database.
     const QString file = fileOf(url);
     if (!file.isEmpty() && !QFileInfo::exists(file))
-        return Failure{QStringLiteral("there is no database %1").arg(file)};
+        return Failure{
+            QCoreApplication::translate("Database", "there is no database %1").arg(file)};
     HRESULT result = E_FAIL;
     SpMgr* manager = SpConnect(url, user, &result);
     if (manager == nullptr && result == SP_E_NOT_LOGGED_IN && !user.isEmpty())
-        return Failure{QStringLiteral("the database %1 has no user %2")
+        return Failure{QCoreApplication::translate("Database", "the database %1 has no user %2")
                            .arg(withoutPassword(url), quoted(user))};
     if (manager == nullptr)
         return cannotOpen(url, result);
@@ -83,11 +88,14 @@ Outcome<std::unique_ptr<Database>> Database::openSample(const QString& user)
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)
                            + QStringLiteral("/condtree");
     if (!QDir().mkpath(folder))
-        return Failure{QStringLiteral("cannot make the folder %1").arg(folder)};
+        return Failure{
+            QCoreApplication::translate("Database", "cannot make the folder %1").arg(folder)};
     const QString url = SpSqliteUrl(QDir::cleanPath(folder + QStringLiteral("/sample.db")));
     const HRESULT result = SpMakeSampleDatabase(url);
     if (FAILED(result))
-        return failureOf(QStringLiteral("cannot make the sample database %1").arg(url), result);
+        return failureOf(
+            QCoreApplication::translate("Database", "cannot make the sample database %1").arg(url),
+            result);
     return open(url, user);
 }
 
@@ -120,7 +128,8 @@ Outcome<std::vector<SpTransition>> Database::transitions() const
     std::vector<SpTransition> found;
     const HRESULT result = m_procedures->mhGetTransitions(found);
     if (FAILED(result))
-        return failureOf(QStringLiteral("cannot read the transitions"), result);
+        return failureOf(QCoreApplication::translate("Database", "cannot read the transitions"),
+                         result);
     return found;
 }
 
@@ -129,9 +138,9 @@ Outcome<SpCondition> Database::load(const SpTransition& transition) const
     SpCondition condition;
     const HRESULT result = m_procedures->mhLoadCondition(transition.id, condition);
     if (FAILED(result))
-        return failureOf(
-            QStringLiteral("cannot read the condition of %1").arg(transitionTitle(transition)),
-            result);
+        return failureOf(QCoreApplication::translate("Database", "cannot read the condition of %1")
+                             .arg(transitionTitle(transition)),
+                         result);
     return condition;
 }
 
@@ -144,11 +153,10 @@ Outcome<std::int64_t> Database::save(const SpTransition& transition,
         m_procedures->mhSaveCondition(transition.id, records, loadedVersion, report);
     if (SUCCEEDED(result))
         return report.version;
-    const QString what =
-        QStringLiteral("cannot save the condition of %1").arg(transitionTitle(transition));
-    if (report.message.isEmpty())
-        return failureOf(what, result);
-    return Failure{QStringLiteral("%1: %2").arg(what, report.message)};
+    const QString what = QCoreApplication::translate("Database", "cannot save the condition of %1")
+                             .arg(transitionTitle(transition));
+    const QString refusal = saveRefusal(result, report);
+    return refusal.isEmpty() ? failureOf(what, result) : Failure{atPlace(what, refusal)};
 }
 
 QString transitionTitle(const SpTransition& transition)
@@ -170,9 +178,12 @@ Outcome<SpTransition> findTransition(const std::vector<SpTransition>& transition
     if (found.empty())
         find(oneLine);
     if (found.size() > 1)
-        return Failure{QStringLiteral("more than one transition is named %1").arg(quoted(title))};
+        return Failure{
+            QCoreApplication::translate("Database", "more than one transition is named %1")
+                .arg(quoted(title))};
     if (found.empty())
-        return Failure{QStringLiteral("there is no transition %1").arg(quoted(title))};
+        return Failure{QCoreApplication::translate("Database", "there is no transition %1")
+                           .arg(quoted(title))};
     return *found.front();
 }
 

@@ -11,7 +11,7 @@
 namespace condtree::workbench {
 
 /// A database that is open, with what the workbench does on it. Failures say what could not be done
-/// and why, in the words of the data-access library.
+/// and why.
 class Database {
 public:
     /// Opens the database of a URL, whose file must be there, as a user; an empty name lets the

@@ -7,14 +7,23 @@
 #include <QMessageBox>
 #include <QPointer>
 
+#include <array>
+
 namespace condtree::workbench {
 
 namespace {
 
-QString translated(const char* text)
-{
-    return QCoreApplication::translate("Dialogs", text);
-}
+// The toolkit's texts of the buttons of our boxes, for languages that it has no texts in itself.
+[[maybe_unused]] constexpr std::array kButtons{
+    //: A button of a message box
+    QT_TRANSLATE_NOOP("QPlatformTheme", "OK"),
+    //: A button of a message box
+    QT_TRANSLATE_NOOP("QPlatformTheme", "Save"),
+    //: A button of a message box
+    QT_TRANSLATE_NOOP("QPlatformTheme", "Cancel"),
+    //: A button of a message box: gives up the changes
+    QT_TRANSLATE_NOOP("QPlatformTheme", "Discard"),
+};
 
 QMessageBox::StandardButton ask(QWidget* parent, QMessageBox::Icon icon, const QString& text,
                                 const QString& detail, QMessageBox::StandardButtons buttons,
@@ -22,8 +31,7 @@ QMessageBox::StandardButton ask(QWidget* parent, QMessageBox::Icon icon, const Q
 {
     // On the heap and watched: the window may be destroyed, and take the box along, while it is
     // open.
-    const QPointer<QMessageBox> box(new QMessageBox(
-        icon, QCoreApplication::translate("Dialogs", "CondTree Workbench"), text, buttons, parent));
+    const QPointer<QMessageBox> box(new QMessageBox(icon, programTitle(), text, buttons, parent));
     box->setTextFormat(Qt::PlainText);
     box->setInformativeText(detail);
     box->setDefaultButton(chosen);
@@ -36,7 +44,8 @@ QString askFile(QWidget* parent, const QString& title, QFileDialog::AcceptMode m
                 const QString& suggestedName)
 {
     const QPointer<QFileDialog> dialog(new QFileDialog(
-        parent, title, QString(), translated("Conditions (*.json);;All files (*)")));
+        parent, title, QString(),
+        QCoreApplication::translate("Dialogs", "Conditions (*.json);;All files (*)")));
     dialog->setAcceptMode(mode);
     dialog->setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile
                                                         : QFileDialog::AnyFile);
@@ -53,11 +62,13 @@ QString askFile(QWidget* parent, const QString& title, QFileDialog::AcceptMode m
 
 Leaving askBeforeLeaving(QWidget* parent, const QString& transition)
 {
-    const auto answer = ask(
-        parent, QMessageBox::Warning,
-        translated("The condition of %1 has changes that are not saved.").arg(quoted(transition)),
-        translated("Save them before going on?"),
-        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
+    const auto answer =
+        ask(parent, QMessageBox::Warning,
+            QCoreApplication::translate("Dialogs",
+                                        "The condition of %1 has changes that are not saved.")
+                .arg(quoted(transition)),
+            QCoreApplication::translate("Dialogs", "Save them before going on?"),
+            QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
     if (answer == QMessageBox::Save)
         return Leaving::Save;
     return answer == QMessageBox::Discard ? Leaving::Discard : Leaving::Cancel;
@@ -66,8 +77,10 @@ Leaving askBeforeLeaving(QWidget* parent, const QString& transition)
 bool askBeforeReverting(QWidget* parent, const QString& transition)
 {
     return ask(parent, QMessageBox::Warning,
-               translated("Give up the changes to the condition of %1?").arg(quoted(transition)),
-               translated("The condition will be read from the database again."),
+               QCoreApplication::translate("Dialogs", "Give up the changes to the condition of %1?")
+                   .arg(quoted(transition)),
+               QCoreApplication::translate("Dialogs",
+                                           "The condition will be read from the database again."),
                QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Cancel)
            == QMessageBox::Discard;
 }
@@ -79,13 +92,14 @@ void tellFailure(QWidget* parent, const QString& text, const QString& advice)
 
 QString askFileToImport(QWidget* parent)
 {
-    return askFile(parent, translated("Import a condition"), QFileDialog::AcceptOpen, {});
+    return askFile(parent, QCoreApplication::translate("Dialogs", "Import a condition"),
+                   QFileDialog::AcceptOpen, {});
 }
 
 QString askFileToExport(QWidget* parent, const QString& suggestedName)
 {
-    return askFile(parent, translated("Export the condition"), QFileDialog::AcceptSave,
-                   suggestedName);
+    return askFile(parent, QCoreApplication::translate("Dialogs", "Export the condition"),
+                   QFileDialog::AcceptSave, suggestedName);
 }
 
 } // namespace condtree::workbench

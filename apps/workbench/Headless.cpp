@@ -40,7 +40,7 @@ Outcome<ConditionRecords> readCondition(const QString& path)
         return json.failure();
     Outcome<ConditionRecords> records = conditionFromJson(json.value());
     if (!records.hasValue())
-        return Failure{QStringLiteral("%1: %2").arg(path, records.failure().text)};
+        return Failure{atPlace(path, records.failure().text)};
     return records;
 }
 
@@ -53,7 +53,7 @@ MaybeFailure importCondition(const Database& database, const SpTransition& trans
     const Outcome<std::int64_t> version =
         database.save(transition, records, stored.value().version);
     if (!version.hasValue())
-        return Failure{QStringLiteral("%1: %2").arg(path, version.failure().text)};
+        return Failure{atPlace(path, version.failure().text)};
     return std::nullopt;
 }
 
@@ -65,7 +65,7 @@ MaybeFailure printCondition(const Database& database, const SpTransition& transi
     const Services services = unattendedServices();
     ConditionControl control(database.manager(), nullptr, services);
     const auto named = [&](const QString& failure) {
-        return Failure{QStringLiteral("%1: %2").arg(transitionTitle(transition), failure)};
+        return Failure{atPlace(transitionTitle(transition), failure)};
     };
     if (const auto failure = control.prepare(condition.value().records))
         return named(failure->text);
@@ -84,8 +84,7 @@ MaybeFailure exportCondition(const Database& database, const SpTransition& trans
         return condition.failure();
     const Outcome<QByteArray> json = conditionToJson(condition.value().records);
     if (!json.hasValue())
-        return Failure{
-            QStringLiteral("%1: %2").arg(transitionTitle(transition), json.failure().text)};
+        return Failure{atPlace(transitionTitle(transition), json.failure().text)};
     return writeFile(path, json.value());
 }
 
@@ -97,13 +96,14 @@ MaybeFailure drawWindow(const Database& database, const std::vector<SpTransition
         return failure;
     const QStringList& failures = window.editor().failures();
     if (!failures.isEmpty())
-        return Failure{QStringLiteral("%1: %2").arg(transitionTitle(transition), failures.first())};
+        return Failure{atPlace(transitionTitle(transition), failures.first())};
     window.show();
     QCoreApplication::processEvents();
     QBuffer png;
     png.open(QIODevice::WriteOnly);
     if (!window.grab().save(&png, "PNG"))
-        return Failure{QStringLiteral("%1: the picture cannot be made").arg(path)};
+        return Failure{
+            atPlace(path, QCoreApplication::translate("Headless", "the picture cannot be made"))};
     return writeFile(path, png.data());
 }
 
@@ -121,7 +121,7 @@ Outcome<SpTransition> chosenTransition(const Options& options,
     if (!options.transition.isNull())
         return findTransition(transitions, options.transition);
     if (transitions.empty())
-        return Failure{QStringLiteral("the database has no transitions")};
+        return Failure{QCoreApplication::translate("Headless", "the database has no transitions")};
     return transitions.front();
 }
 

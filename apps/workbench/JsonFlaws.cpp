@@ -3,6 +3,7 @@
 #include "Messages.h"
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QSet>
@@ -69,12 +70,17 @@ private:
         const qsizetype start = m_at++;
         for (; m_json[m_at] != '"'; ++m_at) {
             if (static_cast<unsigned char>(m_json[m_at]) < 0x20)
-                return refuse(QStringLiteral("a control character in a text"), m_at);
+                //: Behind "not JSON: "; so are the next ones
+                return refuse(
+                    QCoreApplication::translate("JsonFlaws", "a control character in a text"),
+                    m_at);
             if (m_json[m_at] != '\\')
                 continue;
             ++m_at;
             if (!QByteArrayView("\"\\/bfnrtu").contains(m_json[m_at]))
-                return refuse(QStringLiteral("an unknown escape sequence"), m_at - 1);
+                return refuse(
+                    QCoreApplication::translate("JsonFlaws", "an unknown escape sequence"),
+                    m_at - 1);
         }
         ++m_at;
         if (!m_levels.back().expectsKey)
@@ -82,9 +88,9 @@ private:
         m_levels.back().expectsKey = false;
         const QByteArray key = decodedKey(m_json.sliced(start, m_at - start));
         if (m_levels.back().keys.contains(key))
-            return refuse(
-                QStringLiteral("the key %1 is given twice").arg(quoted(QString::fromUtf8(key))),
-                start);
+            return refuse(QCoreApplication::translate("JsonFlaws", "the key %1 is given twice")
+                              .arg(quoted(QString::fromUtf8(key))),
+                          start);
         m_levels.back().keys.insert(key);
     }
 
@@ -92,7 +98,7 @@ private:
     void checkPoint()
     {
         if (!isDigit(m_json[m_at - 1]) || !isDigit(m_json[m_at + 1]))
-            refuse(QStringLiteral("an incomplete number"), m_at);
+            refuse(QCoreApplication::translate("JsonFlaws", "an incomplete number"), m_at);
     }
 
     void refuse(const QString& what, qsizetype offset) { m_flaw = JsonFlaw{what, offset}; }

@@ -3,11 +3,11 @@
 #include "ConditionEditor.h"
 #include "Dialogs.h"
 #include "Files.h"
+#include "Messages.h"
 #include "TransitionList.h"
 
 #include <QAction>
 #include <QCloseEvent>
-#include <QCoreApplication>
 #include <QLabel>
 #include <QMenuBar>
 #include <QPointer>
@@ -23,16 +23,6 @@ namespace condtree::workbench {
 namespace {
 
 constexpr int kStatusTime = 8000; // ms
-
-const char* const kWorkIsKept = QT_TRANSLATE_NOOP(
-    "MainWindow",
-    "Nothing was stored, and your changes are still here. You can export them to a file, "
-    "or revert to the condition in the database.");
-
-QString kept()
-{
-    return QCoreApplication::translate("MainWindow", kWorkIsKept);
-}
 
 /// A file name without the characters that file systems or shells take for something else.
 QString fileNameFor(const SpTransition& transition)
@@ -97,15 +87,16 @@ void MainWindow::makeActions()
         newAction(QStringLiteral("revert"), tr("&Revert"), QStyle::SP_BrowserReload,
                   QKeySequence(Qt::Key_F5), &MainWindow::revert);
     QAction* const importAction =
-        newAction(QStringLiteral("import"), tr("&Import\u2026"), QStyle::SP_DialogOpenButton,
+        newAction(QStringLiteral("import"), tr("&Import…"), QStyle::SP_DialogOpenButton,
                   QKeySequence(Qt::CTRL | Qt::Key_I), &MainWindow::importFile);
     QAction* const exportAction =
-        newAction(QStringLiteral("export"), tr("&Export\u2026"), QStyle::SP_ArrowUp,
+        newAction(QStringLiteral("export"), tr("&Export…"), QStyle::SP_ArrowUp,
                   QKeySequence(Qt::CTRL | Qt::Key_E), &MainWindow::exportFile);
     QAction* const quitAction = newAction(QStringLiteral("quit"), tr("&Quit"), -1,
                                           QKeySequence(Qt::CTRL | Qt::Key_Q), &MainWindow::quit);
     m_onTransition = {saveAction, revertAction, importAction, exportAction};
 
+    //: The menu of what is done with a condition
     QMenu* const menu = menuBar()->addMenu(tr("&Condition"));
     menu->addActions({saveAction, revertAction});
     menu->addSeparator();
@@ -113,6 +104,7 @@ void MainWindow::makeActions()
     menu->addSeparator();
     menu->addAction(quitAction);
 
+    //: The name of the tool bar, as its context menu shows it
     QToolBar* const bar = addToolBar(tr("Condition"));
     bar->setObjectName(QStringLiteral("toolBar"));
     bar->setMovable(false);
@@ -156,6 +148,7 @@ void MainWindow::makeStatusBar()
 {
     const QString url = m_database.displayUrl();
     auto* where =
+        //: %1 is a login name, %2 the name of a database
         new QLabel(tr("%1 on %2").arg(m_database.userName(), url.section(QLatin1Char('/'), -1)));
     where->setObjectName(QStringLiteral("connection"));
     where->setTextFormat(Qt::PlainText);
@@ -197,7 +190,9 @@ bool MainWindow::mayLeave()
 bool MainWindow::trySave()
 {
     if (const auto failure = m_editor->save()) {
-        tellFailure(this, failure->text, kept());
+        tellFailure(this, failure->text,
+                    tr("Nothing was stored, and your changes are still here. You can export them "
+                       "to a file, or revert to the condition in the database."));
         return false;
     }
     const QPointer<MainWindow> alive(this);
@@ -246,7 +241,7 @@ void MainWindow::importFile()
         return;
     }
     if (const auto failure = m_editor->importJson(json.value())) {
-        tellFailure(this, QStringLiteral("%1: %2").arg(path, failure->text));
+        tellFailure(this, atPlace(path, failure->text));
         return;
     }
     statusBar()->showMessage(tr("Imported. Save stores it in the database."), kStatusTime);

@@ -1,5 +1,6 @@
 #include "Messages.h"
 
+#include <QCoreApplication>
 #include <QRegularExpression>
 
 namespace condtree::workbench {
@@ -39,6 +40,18 @@ QString quoted(const QString& text)
     const QString shown =
         text.size() <= kLongestQuote ? text : text.left(kLongestQuote) + QChar(0x2026);
     return QLatin1Char('"') + oneLine(shown) + QLatin1Char('"');
+}
+
+QString programTitle()
+{
+    //: The name of the program, in titles of windows
+    return QCoreApplication::translate("Messages", "CondTree Workbench");
+}
+
+QString atPlace(const QString& place, const QString& what)
+{
+    //: %1 is a file, a field, a transition or what could not be done, %2 what is wrong with it
+    return QCoreApplication::translate("Messages", "%1: %2").arg(place, what);
 }
 
 QByteArray errorLine(const QString& text)

@@ -2,6 +2,8 @@
 
 #include "Messages.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <array>
 
@@ -21,20 +23,26 @@ struct OptionEntry {
 };
 
 constexpr std::array<OptionEntry, 11> kOptions{{
-    {"--db", &Options::database, "URL", "the database; without it the sample database is opened"},
-    {"--user", &Options::user, "NAME", "the login name"},
+    {"--db", &Options::database, "URL",
+     //: Of --db. This and what follows are lines of the list of options
+     QT_TRANSLATE_NOOP("Options", "the database; without it the sample database is opened")},
+    {"--user", &Options::user, "NAME", QT_TRANSLATE_NOOP("Options", "the login name")},
     {"--transition", &Options::transition, "NAME",
-     "the transition, WORKFLOW/NAME as --list has it"},
-    {"--lang", &Options::language, "LL", "the language of the condition's texts"},
-    {"--list", &Options::list, nullptr, "print the transitions"},
-    {"--print", &Options::print, nullptr, "print the transition's condition as a tree"},
+     //: WORKFLOW and NAME may be translated
+     QT_TRANSLATE_NOOP("Options", "the transition, WORKFLOW/NAME as --list has it")},
+    {"--lang", &Options::language, "LL",
+     QT_TRANSLATE_NOOP("Options", "the language, such as de or pt_BR; without it the user's own")},
+    {"--list", &Options::list, nullptr, QT_TRANSLATE_NOOP("Options", "print the transitions")},
+    {"--print", &Options::print, nullptr,
+     QT_TRANSLATE_NOOP("Options", "print the transition's condition as a tree")},
     {"--export", &Options::exportFile, "FILE",
-     "write the condition as JSON; - is the standard output"},
+     QT_TRANSLATE_NOOP("Options", "write the condition as JSON; - is the standard output")},
     {"--import", &Options::importFile, "FILE",
-     "store a condition from JSON; - is the standard input"},
-    {"--screenshot", &Options::screenshotFile, "FILE", "draw the window to a PNG picture"},
-    {"--help", &Options::help, nullptr, "print this text"},
-    {"--version", &Options::version, nullptr, "print the version"},
+     QT_TRANSLATE_NOOP("Options", "store a condition from JSON; - is the standard input")},
+    {"--screenshot", &Options::screenshotFile, "FILE",
+     QT_TRANSLATE_NOOP("Options", "draw the window to a PNG picture")},
+    {"--help", &Options::help, nullptr, QT_TRANSLATE_NOOP("Options", "print this text")},
+    {"--version", &Options::version, nullptr, QT_TRANSLATE_NOOP("Options", "print the version")},
 }};
 
 // Options of the toolkit that a value follows.
@@ -55,7 +63,9 @@ public:
                 return *failure;
         }
         if (!m_options.importFile.isNull() && m_options.transition.isNull())
-            return Failure{QStringLiteral("--import needs --transition")};
+            //: %1 and %2 are options
+            return Failure{QCoreApplication::translate("Options", "%1 needs %2")
+                               .arg(QLatin1String("--import"), QLatin1String("--transition"))};
         return m_options;
     }
 
@@ -68,7 +78,8 @@ private:
             return std::nullopt;
         }
         if (!argument.startsWith(QLatin1Char('-')))
-            return Failure{QStringLiteral("unexpected argument %1").arg(quoted(argument))};
+            return Failure{QCoreApplication::translate("Options", "unexpected argument %1")
+                               .arg(quoted(argument))};
         const qsizetype equals = argument.indexOf(QLatin1Char('='));
         const QString name = argument.left(equals);
         const auto* const entry =
@@ -76,12 +87,13 @@ private:
                 return name == QLatin1String(candidate.name);
             });
         if (entry == kOptions.end())
-            return Failure{QStringLiteral("unknown option %1").arg(quoted(name))};
+            return Failure{
+                QCoreApplication::translate("Options", "unknown option %1").arg(quoted(name))};
         const auto* flag = std::get_if<Flag>(&entry->member);
         if (flag == nullptr)
             return takeValue(*entry, equals < 0 ? QString() : argument.mid(equals + 1));
         if (equals >= 0)
-            return Failure{QStringLiteral("%1 takes no value").arg(name)};
+            return Failure{QCoreApplication::translate("Options", "%1 takes no value").arg(name)};
         m_options.** flag = true;
         return std::nullopt;
     }
@@ -95,10 +107,13 @@ private:
             value = m_arguments[m_at++];
         if (value.isEmpty())
             return Failure{
-                QStringLiteral("%1 needs a value: %2").arg(name, QLatin1String(entry.valueName))};
+
+                //: %1 is an option, %2 the kind of value, as FILE
+                QCoreApplication::translate("Options", "%1 needs a value: %2")
+                    .arg(name, QLatin1String(entry.valueName))};
         QString& target = m_options.*std::get<Value>(entry.member);
         if (!target.isNull())
-            return Failure{QStringLiteral("%1 is given twice").arg(name)};
+            return Failure{QCoreApplication::translate("Options", "%1 is given twice").arg(name)};
         target = value;
         return std::nullopt;
     }
@@ -126,20 +141,39 @@ Outcome<Options> parseOptions(const QStringList& arguments)
     return Parser(arguments).run();
 }
 
+QString languageAsked(const QStringList& arguments)
+{
+    const QLatin1String option("--lang");
+    for (qsizetype i = 0; i < arguments.size(); ++i) {
+        if (arguments[i] == option && i + 1 < arguments.size())
+            return arguments[i + 1];
+        if (arguments[i].startsWith(option + QLatin1Char('=')))
+            return arguments[i].mid(option.size() + 1);
+    }
+    return {};
+}
+
 QString usageText()
 {
-    QString text = QStringLiteral("Usage: condtree-workbench [OPTION]...\n"
-                                  "Edit the conditions of workflow transitions.\n\n");
+    QString text =
+        QCoreApplication::translate("Options", "Usage: condtree-workbench [OPTION]...")
+        + QLatin1Char('\n')
+        + QCoreApplication::translate("Options", "Edit the conditions of workflow transitions.")
+        + QStringLiteral("\n\n");
     for (const OptionEntry& entry : kOptions) {
         QString option = QLatin1String(entry.name);
         if (entry.valueName != nullptr)
             option += QLatin1Char(' ') + QLatin1String(entry.valueName);
-        text += QStringLiteral("  %1 %2\n").arg(option, -18).arg(QLatin1String(entry.help));
+        text += QStringLiteral("  %1 %2\n")
+                    .arg(option, -18)
+                    .arg(QCoreApplication::translate("Options", entry.help));
     }
-    text +=
-        QStringLiteral("\nWith --list, --print, --export, --import or --screenshot no window is "
-                       "opened and no display\nis needed.\n");
-    return text;
+    //: Lines of at most 100 characters
+    return text + QLatin1Char('\n')
+           + QCoreApplication::translate(
+               "Options", "With --list, --print, --export, --import or --screenshot no window is "
+                          "opened and no display\nis needed.")
+           + QLatin1Char('\n');
 }
 
 } // namespace condtree::workbench

@@ -32,6 +32,10 @@ struct Options {
 /// "-platform NAME" are passed over.
 [[nodiscard]] Outcome<Options> parseOptions(const QStringList& arguments);
 
+/// The language that a command line asks for, whatever else is wrong with it: what is wrong is told
+/// in this language. Null when it asks for none.
+[[nodiscard]] QString languageAsked(const QStringList& arguments);
+
 /// The text that --help prints.
 [[nodiscard]] QString usageText();
 

@@ -8,8 +8,8 @@
 
 namespace condtree::workbench {
 
-/// Why something could not be done: one line of English that names the place. It may quote texts of
-/// others; oneLine() of Messages.h makes it fit for a line of output.
+/// Why something could not be done: one line in the user's language that names the place. It may
+/// quote texts of others; oneLine() of Messages.h makes it fit for a line of output.
 struct Failure {
     QString text;
 };

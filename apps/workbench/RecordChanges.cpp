@@ -3,6 +3,8 @@
 #include <condtree/model/ComboCmd.h>
 #include <condtree/model/TransCond.h>
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <array>
 
@@ -96,16 +98,22 @@ QString rowNumbers(const std::vector<std::size_t>& rows)
 {
     constexpr std::size_t kFew = 5;
     const std::size_t named = std::min(rows.size(), kFew);
-    QString text = rows.size() == 1 ? QStringLiteral("row ") : QStringLiteral("rows ");
-    text += QString::number(rows.front() + 1);
+    QString text = QString::number(rows.front() + 1);
     for (std::size_t i = 1; i < named; ++i) {
-        const bool isLast = i + 1 == rows.size();
-        text += isLast ? QStringLiteral(" and ") : QStringLiteral(", ");
-        text += QString::number(rows[i] + 1);
+        const QString number = QString::number(rows[i] + 1);
+        if (i + 1 < rows.size())
+            //: The beginning of a list of row numbers, "1, 2 and 9"
+            text = QCoreApplication::translate("RecordChanges", "%1, %2").arg(text, number);
+        else
+            //: The end of a list of row numbers, "1, 2 and 9": %2 is the last one
+            text = QCoreApplication::translate("RecordChanges", "%1 and %2").arg(text, number);
     }
-    if (rows.size() > named)
-        text += QStringLiteral(" and %1 more").arg(rows.size() - named);
-    return text;
+    if (rows.size() == named)
+        return text;
+    const int others = static_cast<int>(rows.size() - named);
+    //: A list of row numbers that is cut: "1, 2, 3, 4, 5 and 7 more"
+    return QCoreApplication::translate("RecordChanges", "%1 and %n more", nullptr, others)
+        .arg(text);
 }
 
 } // namespace condtree::workbench

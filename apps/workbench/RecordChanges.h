@@ -14,8 +14,8 @@ namespace condtree::workbench {
 [[nodiscard]] std::vector<std::size_t> rowsChangedBySaving(const ConditionRecords& read,
                                                            const ConditionRecords& stored);
 
-/// Rows for a message: "row 3", "rows 1, 2 and 9", and behind the first few how many more there
-/// are. Counted from 1; rows are indexes and not empty.
+/// Rows for a message: "3", "1, 2 and 9", and behind the first few how many more there are. Counted
+/// from 1; rows are indexes and not empty.
 [[nodiscard]] QString rowNumbers(const std::vector<std::size_t>& rows);
 
 } // namespace condtree::workbench

@@ -32,6 +32,7 @@ TransitionList::TransitionList(QWidget* parent)
     : QTreeWidget(parent)
 {
     setObjectName(QStringLiteral("transitions"));
+    //: What the list is to those who hear the window
     setAccessibleName(tr("Workflows and their transitions"));
     setColumnCount(2);
     setHeaderHidden(true);
@@ -137,19 +138,21 @@ void TransitionList::fillItem(QTreeWidgetItem& item, const SpTransition& transit
     const QString name = transition.name.str();
     item.setData(NameColumn, kIdRole, transition.id);
     // In front, where it is never elided.
+    //: The mark in front of a transition whose condition has changes that are not saved
     item.setText(NameColumn, isUnsaved ? tr("* %1").arg(name) : name);
     item.setToolTip(NameColumn,
                     (isUnsaved ? tr("%1 (not saved)").arg(name) : name).toHtmlEscaped());
     const bool isEmpty = transition.records == 0;
+    //: Stands in place of the number of rows of a condition
     item.setText(CountColumn, isEmpty ? tr("empty") : QString::number(transition.records));
     item.setTextAlignment(CountColumn, Qt::AlignRight | Qt::AlignVCenter);
     item.setForeground(CountColumn, palette().brush(QPalette::PlaceholderText));
     QFont shown = font();
     shown.setItalic(isEmpty);
     item.setFont(CountColumn, shown);
-    item.setToolTip(CountColumn,
-                    isEmpty ? tr("There is no condition yet")
-                            : tr("Rows and groups of the condition: %1").arg(transition.records));
+    item.setToolTip(CountColumn, isEmpty ? tr("There is no condition yet")
+                                         : tr("The condition has %n row(s) and group(s)", nullptr,
+                                              transition.records));
 }
 
 } // namespace condtree::workbench

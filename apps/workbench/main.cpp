@@ -1,10 +1,9 @@
+#include "Dialogs.h"
 #include "Files.h"
 #include "Headless.h"
-#include "MainWindow.h"
 #include "Messages.h"
-
-#include <condtree/control/RealServices.h>
-#include <condtree/strmgr/Language.h>
+#include "Translations.h"
+#include "Windowed.h"
 
 #include <QApplication>
 #include <QLoggingCategory>
@@ -65,6 +64,14 @@ void forceOffscreen(int& argc, char** argv)
     argv[argc] = nullptr;
 }
 
+QString noDisplay(const QString& variable)
+{
+    //: %1 is a variable of the environment
+    return QCoreApplication::translate("Main",
+                                       "there is no display to open a window on: %1 is not set")
+        .arg(variable);
+}
+
 /// Why no window can be opened, as far as the environment tells.
 MaybeFailure checkDisplay(const QByteArray& platform)
 {
@@ -72,14 +79,13 @@ MaybeFailure checkDisplay(const QByteArray& platform)
     const bool hasX = !qEnvironmentVariableIsEmpty("DISPLAY");
     const bool hasWayland = !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
     if (platform.isEmpty() && !hasX && !hasWayland)
-        return Failure{QStringLiteral(
+        return Failure{QCoreApplication::translate(
+            "Main",
             "there is no display to open a window on: neither DISPLAY nor WAYLAND_DISPLAY is set")};
     if (platform == "xcb" && !hasX)
-        return Failure{
-            QStringLiteral("there is no display to open a window on: DISPLAY is not set")};
+        return Failure{noDisplay(QLatin1String("DISPLAY"))};
     if (platform == "wayland" && !hasWayland)
-        return Failure{
-            QStringLiteral("there is no display to open a window on: WAYLAND_DISPLAY is not set")};
+        return Failure{noDisplay(QLatin1String("WAYLAND_DISPLAY"))};
 #else
     Q_UNUSED(platform)
 #endif
@@ -100,72 +106,63 @@ void endOnFatal(QtMsgType type, const QMessageLogContext&, const QString& text)
 /// would be more of the same. Who wants to read it all sets QT_LOGGING_RULES.
 constexpr const char* kQuiet = "*.warning=false";
 
-MaybeFailure chooseLanguage(const Options& options, QApplication& application)
+MaybeFailure run(const Options& options)
 {
-    if (options.language.isNull() || condtree::loadLanguage(application, options.language))
-        return std::nullopt;
-    return Failure{
-        QStringLiteral("there are no texts in the language %1").arg(quoted(options.language))};
-}
-
-MaybeFailure showWindow(const Options& options)
-{
-    const auto database = openDatabase(options);
-    if (!database.hasValue())
-        return database.failure();
-    const auto transitions = database.value()->transitions();
-    if (!transitions.hasValue())
-        return transitions.failure();
-    MainWindow window(*database.value(), transitions.value(), condtree::realServices());
-    // A database without transitions is an empty window, unless one was asked for.
-    if (!transitions.value().empty() || !options.transition.isNull()) {
-        const auto chosen = chosenTransition(options, transitions.value());
-        if (!chosen.hasValue())
-            return chosen.failure();
-        // Shown first: a condition that cannot be read must not shut out those that can.
-        window.show();
-        window.openOrTell(chosen.value());
-    }
-    QLoggingCategory::setFilterRules(QString());
-    window.show();
-    QApplication::exec();
-    return std::nullopt;
-}
-
-MaybeFailure run(const Options& options, QApplication& application)
-{
-    if (const auto failure = chooseLanguage(options, application))
-        return failure;
-    return options.isHeadless() ? runHeadless(options) : showWindow(options);
+    return options.isHeadless() ? runHeadless(options) : runWindow(options);
 }
 
 int start(const Options& options, int argc, char** argv)
 {
     if (options.isHeadless())
         forceOffscreen(argc, argv);
-    else if (const auto failure = checkDisplay(wantedPlatform(argc, argv)))
-        return finish(failure);
-    QLoggingCategory::setFilterRules(QString::fromLatin1(kQuiet));
     QApplication::setApplicationName(QStringLiteral("condtree-workbench"));
-    QApplication::setApplicationDisplayName(QStringLiteral("CondTree Workbench"));
     QApplication::setApplicationVersion(QStringLiteral(CONDTREE_VERSION));
     qInstallMessageHandler(endOnFatal);
     QApplication application(argc, argv);
     qInstallMessageHandler(nullptr);
-    return finish(run(options, application));
+    useLanguage(application, options.language);
+    QApplication::setApplicationDisplayName(programTitle());
+    QLoggingCategory::setFilterRules(QString::fromLatin1(kQuiet));
+    const auto failure = run(options);
+    const int code = finish(failure);
+    // Who started the window from a desktop does not see the line.
+    if (failure && !options.isHeadless())
+        tellFailure(nullptr, failure->text);
+    return code;
+}
+
+/// Whether a command line does nothing but say something.
+bool endsEarly(const Options& options, const QByteArray& platform)
+{
+    return options.help || options.version || (!options.isHeadless() && checkDisplay(platform));
+}
+
+/// Says it, in the language of the application.
+MaybeFailure sayEarly(const QStringList& arguments, const QByteArray& platform)
+{
+    const auto parsed = parseOptions(arguments);
+    if (!parsed.hasValue())
+        return parsed.failure();
+    const QString output = QStringLiteral("-");
+    if (parsed.value().help)
+        return writeFile(output, usageText().toUtf8());
+    if (parsed.value().version)
+        return writeFile(output, "condtree-workbench " CONDTREE_VERSION "\n");
+    return checkDisplay(platform);
 }
 
 int runProgram(int argc, char** argv)
 {
-    const auto parsed = parseOptions(argumentsOf(argc, argv));
-    if (!parsed.hasValue())
-        return finish(parsed.failure());
-    const Options& options = parsed.value();
-    if (options.help)
-        return finish(writeFile(QStringLiteral("-"), usageText().toUtf8()));
-    if (options.version)
-        return finish(writeFile(QStringLiteral("-"), "condtree-workbench " CONDTREE_VERSION "\n"));
-    return start(options, argc, argv);
+    const QStringList arguments = argumentsOf(argc, argv);
+    const QByteArray platform = wantedPlatform(argc, argv);
+    const auto parsed = parseOptions(arguments);
+    if (parsed.hasValue() && !endsEarly(parsed.value(), platform))
+        return start(parsed.value(), argc, argv);
+    // Texts need an application, though none that needs a display.
+    const QCoreApplication application(argc, argv);
+    QLoggingCategory::setFilterRules(QString::fromLatin1(kQuiet));
+    useLanguage(*QCoreApplication::instance(), languageAsked(arguments));
+    return finish(sayEarly(arguments, platform));
 }
 
 /// Tells an error with no memory of its own.
