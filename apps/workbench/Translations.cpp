@@ -47,6 +47,16 @@ bool install(QCoreApplication& application, const char* name, const QString& lan
     return true;
 }
 
+QStringList userLanguages()
+{
+    QStringList languages = QLocale::system().uiLanguages();
+    // The toolkit puts this behind a language that it does not know, whatever follows.
+    const QString unknown = QStringLiteral("C");
+    if (languages.size() > 1)
+        languages.removeAll(unknown);
+    return languages;
+}
+
 /// The locale whose dates go with texts of a language. The user's own, with their country, where it
 /// has this language.
 QLocale localeOf(const QString& language, bool isAsked)
@@ -65,8 +75,7 @@ void useLanguage(QCoreApplication& application, const QString& asked)
 {
     unloadTranslators(application);
     const bool isAsked = !asked.isNull();
-    const QString language =
-        preferredLanguage(isAsked ? QStringList{asked} : QLocale::system().uiLanguages());
+    const QString language = preferredLanguage(isAsked ? QStringList{asked} : userLanguages());
     const bool hasConditions = loadLanguage(application, language);
     // The toolkit's own after ours: what is translated last is asked first, and ours stand in for
     // the few buttons of languages that the toolkit does not know.

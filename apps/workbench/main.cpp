@@ -159,9 +159,9 @@ int runProgram(int argc, char** argv)
     if (parsed.hasValue() && !endsEarly(parsed.value(), platform))
         return start(parsed.value(), argc, argv);
     // Texts need an application, though none that needs a display.
-    const QCoreApplication application(argc, argv);
+    QCoreApplication application(argc, argv);
     QLoggingCategory::setFilterRules(QString::fromLatin1(kQuiet));
-    useLanguage(*QCoreApplication::instance(), languageAsked(arguments));
+    useLanguage(application, languageAsked(arguments));
     return finish(sayEarly(arguments, platform));
 }
 

@@ -79,9 +79,6 @@ TEST_F(CommandLineErrors, WhatIsNotThereIsNamed)
         {"a user",
          {text("--list"), text("--user"), text("nobody")},
          text("the database %1 has no user \"nobody\"").arg(m_database.url())},
-        {"a language",
-         {text("--list"), text("--lang"), text("qq")},
-         text("there are no texts in the language \"qq\"")},
     };
     for (const Row& row : rows)
         expectError(run(row.arguments), row.line, row.name);
@@ -193,18 +190,6 @@ TEST_F(CommandLineErrors, WhatTheControlTellsOfIsAnErrorOfPrintingAndDrawing)
         outputOf(runOn("Document Approval/Request Changes", {text("--screenshot"), picture}));
         EXPECT_TRUE(QFile::remove(picture));
     }
-}
-
-TEST_F(CommandLineErrors, AWindowThatCannotBeOpenedIsAnErrorToo)
-{
-    const QList<std::pair<QString, QString>> offscreen{
-        {text("QT_QPA_PLATFORM"), text("offscreen")}};
-    expectError(
-        runPlain({text("--db"), m_database.url(), text("--transition"), text("x")}, {}, offscreen),
-        text("there is no transition \"x\""), "a transition");
-    expectError(
-        runPlain({text("--db"), m_database.url(), text("--user"), text("x")}, {}, offscreen),
-        text("the database %1 has no user \"x\"").arg(m_database.url()), "a user");
 }
 
 TEST_F(CommandLineErrors, AFailureAfterAnotherTaskKeepsWhatThatDid)

@@ -91,19 +91,19 @@ TEST(ConditionJson, TheWriterRefusesTextThatNoFileCarries)
     const Row rows[] = {
         {"a null in the first row",
          {record(3, 2, QString(QChar(0)), {}, {}, 1, 100)},
-         "row 1: the name holds U+0000, which a file cannot carry"},
+         "row 1: the field name holds U+0000, which a file cannot carry"},
         {"a high surrogate at the end",
          {good, record(3, 2, {}, QStringLiteral("a") + high, {}, 1, 1)},
-         "row 2: the extra holds the unpaired surrogate U+D800, which a file cannot carry"},
+         "row 2: the field extra holds the unpaired surrogate U+D800, which a file cannot carry"},
         {"a low surrogate",
          {good, good, record(3, 2, {}, {}, low + QStringLiteral("a"), 1, 1)},
-         "row 3: the value holds the unpaired surrogate U+DFFF, which a file cannot carry"},
+         "row 3: the field value holds the unpaired surrogate U+DFFF, which a file cannot carry"},
         {"surrogates in the wrong order",
          {record(3, 2, {}, {}, low + high, 1, 1)},
-         "row 1: the value holds the unpaired surrogate U+DFFF, which a file cannot carry"},
+         "row 1: the field value holds the unpaired surrogate U+DFFF, which a file cannot carry"},
         {"two high ones",
          {record(3, 2, {}, {}, high + high + low, 1, 1)},
-         "row 1: the value holds the unpaired surrogate U+D800, which a file cannot carry"},
+         "row 1: the field value holds the unpaired surrogate U+D800, which a file cannot carry"},
     };
     for (const Row& row : rows)
         EXPECT_EQ(written(row.records), row.line) << row.name;

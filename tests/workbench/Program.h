@@ -28,11 +28,12 @@ protected:
         QProcess process;
         QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
         for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "XDG_RUNTIME_DIR",
-                                 "QT_LOGGING_RULES", "QT_SCALE_FACTOR"})
+                                 "QT_LOGGING_RULES", "QT_SCALE_FACTOR", "LANGUAGE"})
             variables.remove(QLatin1String(name));
         variables.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
         variables.insert(QStringLiteral("HOME"), m_database.file("home"));
         variables.insert(QStringLiteral("XDG_DATA_HOME"), m_database.file("data"));
+        variables.insert(QStringLiteral("XDG_DATA_DIRS"), m_database.file("data-dirs"));
         variables.insert(QStringLiteral("XDG_CONFIG_HOME"), m_database.file("config"));
         variables.insert(QStringLiteral("XDG_CONFIG_DIRS"), m_database.file("config-dirs"));
         variables.insert(QStringLiteral("CONDTREE_REGISTRY_DIR"), m_database.file("registry"));

@@ -92,11 +92,11 @@ TEST(RecordChanges, RecordsThatAreMissingAreNamedAndTheOthersStillFit)
 
 TEST(RecordChanges, TheFirstFewRowsAreNamedFromOne)
 {
-    EXPECT_EQ(rowNumbers({2}), QStringLiteral("row 3"));
-    EXPECT_EQ(rowNumbers({0, 1}), QStringLiteral("rows 1 and 2"));
-    EXPECT_EQ(rowNumbers({0, 1, 8}), QStringLiteral("rows 1, 2 and 9"));
-    EXPECT_EQ(rowNumbers({0, 1, 2, 3, 4}), QStringLiteral("rows 1, 2, 3, 4 and 5"));
-    EXPECT_EQ(rowNumbers({0, 1, 2, 3, 4, 9, 11}), QStringLiteral("rows 1, 2, 3, 4, 5 and 2 more"));
+    EXPECT_EQ(rowNumbers({2}), QStringLiteral("3"));
+    EXPECT_EQ(rowNumbers({0, 1}), QStringLiteral("1 and 2"));
+    EXPECT_EQ(rowNumbers({0, 1, 8}), QStringLiteral("1, 2 and 9"));
+    EXPECT_EQ(rowNumbers({0, 1, 2, 3, 4}), QStringLiteral("1, 2, 3, 4 and 5"));
+    EXPECT_EQ(rowNumbers({0, 1, 2, 3, 4, 9, 11}), QStringLiteral("1, 2, 3, 4, 5 and 2 more"));
 }
 
 } // namespace

@@ -8,6 +8,7 @@
 #include "workbench/ConditionEditor.h"
 #include "workbench/MainWindow.h"
 #include "workbench/TransitionList.h"
+#include "workbench/Translations.h"
 
 #include <condtree/control/RealServices.h>
 
@@ -137,6 +138,8 @@ inline void cancel(QDialog& dialog)
 /// The window over a sample database, with its first transition open.
 class WindowTest : public testing::Test {
 protected:
+    WindowTest() { useLanguage(*qApp, {}); }
+
     void SetUp() override
     {
         m_database = m_sample.open();

@@ -1,0 +1,12 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="da" sourcelanguage="en">
+<context>
+    <name>Search</name>
+    <message>
+        <source>String Contains</source>
+        <comment>OpName 106</comment>
+        <translation>Tekst med</translation>
+    </message>
+</context>
+</TS>
