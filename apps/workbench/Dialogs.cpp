@@ -23,6 +23,14 @@ namespace {
     QT_TRANSLATE_NOOP("QPlatformTheme", "Cancel"),
     //: A button of a message box: gives up the changes
     QT_TRANSLATE_NOOP("QPlatformTheme", "Discard"),
+    //: A button of a message box on a GNOME desktop
+    QT_TRANSLATE_NOOP("QGnomeTheme", "&OK"),
+    //: A button of a message box on a GNOME desktop
+    QT_TRANSLATE_NOOP("QGnomeTheme", "&Save"),
+    //: A button of a message box on a GNOME desktop
+    QT_TRANSLATE_NOOP("QGnomeTheme", "&Cancel"),
+    //: A button of a message box on a GNOME desktop: goes on and gives up the changes
+    QT_TRANSLATE_NOOP("QGnomeTheme", "Close without Saving"),
 };
 
 QMessageBox::StandardButton ask(QWidget* parent, QMessageBox::Icon icon, const QString& text,

@@ -374,6 +374,29 @@ is needed.</source>
     </message>
 </context>
 <context>
+    <name>QGnomeTheme</name>
+    <message>
+        <source>&amp;OK</source>
+        <extracomment>A button of a message box on a GNOME desktop</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <extracomment>A button of a message box on a GNOME desktop</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <extracomment>A button of a message box on a GNOME desktop</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close without Saving</source>
+        <extracomment>A button of a message box on a GNOME desktop: goes on and gives up the changes</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>QPlatformTheme</name>
     <message>
         <source>OK</source>
