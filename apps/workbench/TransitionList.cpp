@@ -66,6 +66,8 @@ void TransitionList::setTransitions(const std::vector<SpTransition>& transitions
         if (workflow == nullptr || workflow->text(NameColumn) != transition.workflow.str()) {
             workflow = new QTreeWidgetItem(this, {transition.workflow.str()});
             workflow->setFlags(Qt::ItemIsEnabled);
+            // The second column may be wide in other languages; a workflow has nothing in it.
+            workflow->setFirstColumnSpanned(true);
             workflow->setToolTip(NameColumn, transition.workflow.str().toHtmlEscaped());
             QFont bold = font();
             bold.setBold(true);
@@ -143,7 +145,7 @@ void TransitionList::fillItem(QTreeWidgetItem& item, const SpTransition& transit
     item.setToolTip(NameColumn,
                     (isUnsaved ? tr("%1 (not saved)").arg(name) : name).toHtmlEscaped());
     const bool isEmpty = transition.records == 0;
-    //: Stands in place of the number of rows of a condition
+    //: Stands in place of the number of rows of a condition; short, for a narrow column
     item.setText(CountColumn, isEmpty ? tr("empty") : QString::number(transition.records));
     item.setTextAlignment(CountColumn, Qt::AlignRight | Qt::AlignVCenter);
     item.setForeground(CountColumn, palette().brush(QPalette::PlaceholderText));

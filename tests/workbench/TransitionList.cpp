@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractItemModelTester>
+#include <QHeaderView>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -53,6 +54,23 @@ TEST(TransitionList, EachWorkflowHasItsTransitionsWithTheirCountsAndTheEmptyOnes
                             "  Submit (12)\n");
     EXPECT_TRUE(list.topLevelItem(0)->isExpanded());
     EXPECT_TRUE(list.topLevelItem(1)->isExpanded());
+}
+
+TEST(TransitionList, AWideCountTakesNoRoomFromTheWorkflows)
+{
+    TransitionList list;
+    list.setTransitions({transition(1, "mmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmm", "Submit", 3)});
+    list.itemOf(1)->setText(1, QString(12, QLatin1Char('m')));
+    list.resize(300, 200);
+    list.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&list));
+    QRect count = list.visualItemRect(list.topLevelItem(0));
+    count.setLeft(list.header()->sectionViewportPosition(1) + 10);
+    ASSERT_GT(count.width(), 50);
+    const QImage shown = list.viewport()->grab(count).toImage();
+    QImage blank = shown;
+    blank.fill(shown.pixelColor(0, 0));
+    EXPECT_NE(shown, blank);
 }
 
 TEST(TransitionList, AClickChoosesATransitionAndNoWorkflow)

@@ -613,7 +613,7 @@ is needed.</source>
     </message>
     <message>
         <source>empty</source>
-        <extracomment>Stands in place of the number of rows of a condition</extracomment>
+        <extracomment>Stands in place of the number of rows of a condition; short, for a narrow column</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
