@@ -10,7 +10,6 @@ formats='
 password|passwd|pwd
 {format:
 ,version:
-condtree-workbench %1: %2
   %1 %2\n
 condtree-workbench: 
 condtree-workbench: %s%s\n
