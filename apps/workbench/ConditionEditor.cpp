@@ -149,7 +149,7 @@ std::optional<ConditionRecords> ConditionEditor::fill(const ConditionRecords& re
                                            : std::vector<std::size_t>();
     if (!changed.empty())
         //: %n counts the records that change, %1 all; %2 names the first: "3", "1, 2 and 9"
-        warnings.append(tr("Saving will store something else than was read: %n of the %1 "
+        warnings.append(tr("Saving will store something other than what was read: %n of the %1 "
                            "record(s), row(s) %2.",
                            nullptr, static_cast<int>(changed.size()))
                             .arg(QString::number(records.size()), rowNumbers(changed)));

@@ -226,16 +226,18 @@ TEST_F(WindowSaving, RecordsThatSavingWouldDropAreToldBeforehand)
         "UPDATE condition_records SET cond_type = 99, operator = -1 WHERE position = 2 AND "
         "transition_id = (SELECT id FROM transitions WHERE name = 'Evaluate')")});
     click("Engineering Change/Evaluate");
-    EXPECT_EQ(label("warning"),
-              QStringLiteral("Saving will store something else than was read: 1 of the 4 records, "
-                             "row 3."));
+    EXPECT_EQ(
+        label("warning"),
+        QStringLiteral("Saving will store something other than what was read: 1 of the 4 records, "
+                       "row 3."));
     sql({QStringLiteral("UPDATE condition_records SET row_kind = 3 WHERE position = 2 AND "
                         "transition_id = (SELECT id FROM transitions WHERE name = 'Evaluate')")});
     trigger("revert");
-    EXPECT_EQ(label("warning"),
-              QStringLiteral("Saving will drop 2 of the 4 records that were read.\n"
-                             "Saving will store something else than was read: 2 of the 4 records, "
-                             "rows 3 and 4."));
+    EXPECT_EQ(
+        label("warning"),
+        QStringLiteral("Saving will drop 2 of the 4 records that were read.\n"
+                       "Saving will store something other than what was read: 2 of the 4 records, "
+                       "rows 3 and 4."));
     expectUnsaved(false);
 }
 
@@ -255,9 +257,10 @@ TEST_F(WindowSaving, RowsThatSavingWouldChangeAreToldBeforehand)
 )");
     const Answers answers({choose(file)});
     trigger("import");
-    EXPECT_EQ(label("warning"),
-              QStringLiteral("Saving will store something else than was read: 6 of the 8 records, "
-                             "rows 2, 3, 4, 5, 6 and 1 more."));
+    EXPECT_EQ(
+        label("warning"),
+        QStringLiteral("Saving will store something other than what was read: 6 of the 8 records, "
+                       "rows 2, 3, 4, 5, 6 and 1 more."));
     trigger("save");
     EXPECT_EQ(label("warning"), QStringLiteral("(hidden)"));
 }
@@ -272,10 +275,11 @@ TEST_F(WindowSaving, RecordsOfAFileThatSavingWouldDropAreTold)
 )");
     const Answers answers({choose(file)});
     trigger("import");
-    EXPECT_EQ(label("warning"),
-              QStringLiteral("Saving will drop 2 of the 2 records that were read.\n"
-                             "Saving will store something else than was read: 2 of the 2 records, "
-                             "rows 1 and 2."));
+    EXPECT_EQ(
+        label("warning"),
+        QStringLiteral("Saving will drop 2 of the 2 records that were read.\n"
+                       "Saving will store something other than what was read: 2 of the 2 records, "
+                       "rows 1 and 2."));
     expectUnsaved(true);
 }
 

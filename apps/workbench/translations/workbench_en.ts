@@ -22,11 +22,11 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>Saving will store something else than was read: %n of the %1 record(s), row(s) %2.</source>
+        <source>Saving will store something other than what was read: %n of the %1 record(s), row(s) %2.</source>
         <extracomment>%n counts the records that change, %1 all; %2 names the first: &quot;3&quot;, &quot;1, 2 and 9&quot;</extracomment>
         <translation>
-            <numerusform>Saving will store something else than was read: %n of the %1 records, row %2.</numerusform>
-            <numerusform>Saving will store something else than was read: %n of the %1 records, rows %2.</numerusform>
+            <numerusform>Saving will store something other than what was read: %n of the %1 records, row %2.</numerusform>
+            <numerusform>Saving will store something other than what was read: %n of the %1 records, rows %2.</numerusform>
         </translation>
     </message>
 </context>

@@ -6,187 +6,187 @@
     <message>
         <source>row %1: the field %2 holds %3, which a file cannot carry</source>
         <extracomment>%2 is the field&apos;s name in the file, %3 a character as U+0000</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>rad %1: fältet %2 innehåller tecknet %3, som inte kan stå i en fil</translation>
     </message>
     <message>
         <source>row %1: the field %2 holds the unpaired surrogate %3, which a file cannot carry</source>
         <extracomment>%2 is the field&apos;s name in the file, %3 a character as U+D800</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>rad %1: fältet %2 innehåller det oparade surrogattecknet %3, som inte kan stå i en fil</translation>
     </message>
     <message>
         <source>true or false</source>
         <extracomment>Behind &quot;a number is expected, not&quot;; so are the other kinds of value</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>ett booleskt värde (true eller false)</translation>
     </message>
     <message>
         <source>a number</source>
-        <translation type="unfinished"></translation>
+        <translation>ett tal</translation>
     </message>
     <message>
         <source>a text</source>
-        <translation type="unfinished"></translation>
+        <translation>en text</translation>
     </message>
     <message>
         <source>a list</source>
-        <translation type="unfinished"></translation>
+        <translation>en lista</translation>
     </message>
     <message>
         <source>an object</source>
-        <translation type="unfinished"></translation>
+        <translation>ett objekt</translation>
     </message>
     <message>
         <source>null</source>
         <extracomment>The word of JSON for no value</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>null</translation>
     </message>
     <message>
         <source>a number is expected, not %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ett tal förväntas, inte %1</translation>
     </message>
     <message>
         <source>a text is expected, not %1</source>
-        <translation type="unfinished"></translation>
+        <translation>en text förväntas, inte %1</translation>
     </message>
     <message>
         <source>a list is expected, not %1</source>
-        <translation type="unfinished"></translation>
+        <translation>en lista förväntas, inte %1</translation>
     </message>
     <message>
         <source>an object is expected, not %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ett objekt förväntas, inte %1</translation>
     </message>
     <message>
         <source>%1 is no whole number of 32 bits</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 är inte ett heltal på 32 bitar</translation>
     </message>
     <message>
         <source>the text holds %1</source>
         <extracomment>%1 is a character as U+0000</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>texten innehåller tecknet %1</translation>
     </message>
     <message>
         <source>the text holds the unpaired surrogate %1</source>
         <extracomment>%1 is a character as U+D800</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>texten innehåller det oparade surrogattecknet %1</translation>
     </message>
     <message>
         <source>the field is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>fältet saknas</translation>
     </message>
     <message>
         <source>the field %1 is unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>fältet %1 är okänt</translation>
     </message>
     <message>
         <source>%1 is expected, not %2</source>
         <extracomment>%1 and %2 are values: 1, &quot;condtree-condition&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 förväntas, inte %2</translation>
     </message>
     <message>
         <source>%1 (byte %2, line %3)</source>
         <extracomment>%1 is what is wrong in a file, %2 and %3 the place</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 (byte %2, rad %3)</translation>
     </message>
     <message>
         <source>not JSON: %1</source>
         <extracomment>%1 is the reason, perhaps in the words of the toolkit</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>inte giltig JSON: %1</translation>
     </message>
     <message>
         <source>more than %1 values</source>
         <extracomment>%1 is 4000000; values are objects, lists and whatever stands in them</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>fler än %1 värden</translation>
     </message>
     <message>
         <source>the file is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>filen är tom</translation>
     </message>
     <message>
         <source>the text is in UTF-16 or UTF-32; UTF-8 is expected</source>
-        <translation type="unfinished"></translation>
+        <translation>texten är kodad i UTF-16 eller UTF-32; UTF-8 förväntas</translation>
     </message>
     <message>
         <source>the condition takes more than the %1 bytes that a file may have</source>
-        <translation type="unfinished"></translation>
+        <translation>villkoret kräver mer än de %1 byte som en fil får ha</translation>
     </message>
     <message>
         <source>the condition has more than %1 values, which no file may have</source>
         <extracomment>%1 is 4000000</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>villkoret har fler än %1 värden, vilket är mer än en fil får innehålla</translation>
     </message>
 </context>
 <context>
     <name>Database</name>
     <message>
         <source>cannot open the database %1</source>
-        <translation type="unfinished"></translation>
+        <translation>databasen %1 kan inte öppnas</translation>
     </message>
     <message>
         <source>there is no database %1</source>
-        <translation type="unfinished"></translation>
+        <translation>databasen %1 finns inte</translation>
     </message>
     <message>
         <source>the database %1 has no user %2</source>
-        <translation type="unfinished"></translation>
+        <translation>databasen %1 har ingen användare %2</translation>
     </message>
     <message>
         <source>cannot make the folder %1</source>
-        <translation type="unfinished"></translation>
+        <translation>mappen %1 kan inte skapas</translation>
     </message>
     <message>
         <source>cannot make the sample database %1</source>
-        <translation type="unfinished"></translation>
+        <translation>exempeldatabasen %1 kan inte skapas</translation>
     </message>
     <message>
         <source>cannot read the transitions</source>
-        <translation type="unfinished"></translation>
+        <translation>övergångarna kan inte läsas</translation>
     </message>
     <message>
         <source>cannot read the condition of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>villkoret för %1 kan inte läsas</translation>
     </message>
     <message>
         <source>cannot save the condition of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>villkoret för %1 kan inte sparas</translation>
     </message>
     <message>
         <source>more than one transition is named %1</source>
-        <translation type="unfinished"></translation>
+        <translation>flera övergångar heter %1</translation>
     </message>
     <message>
         <source>there is no transition %1</source>
-        <translation type="unfinished"></translation>
+        <translation>övergången %1 finns inte</translation>
     </message>
 </context>
 <context>
     <name>Dialogs</name>
     <message>
         <source>Conditions (*.json);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Villkor (*.json);;Alla filer (*)</translation>
     </message>
     <message>
         <source>The condition of %1 has changes that are not saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Villkoret för %1 har ändringar som inte har sparats.</translation>
     </message>
     <message>
         <source>Save them before going on?</source>
-        <translation type="unfinished"></translation>
+        <translation>Vill du spara ändringarna innan du fortsätter?</translation>
     </message>
     <message>
         <source>Give up the changes to the condition of %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>Vill du förkasta ändringarna i villkoret för %1?</translation>
     </message>
     <message>
         <source>The condition will be read from the database again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Villkoret läses in från databasen igen.</translation>
     </message>
     <message>
         <source>Import a condition</source>
-        <translation type="unfinished"></translation>
+        <translation>Importera ett villkor</translation>
     </message>
     <message>
         <source>Export the condition</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportera villkoret</translation>
     </message>
 </context>
 <context>
@@ -194,49 +194,49 @@
     <message>
         <source>standard input</source>
         <extracomment>Stands where the name of a file stands otherwise</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>standard in</translation>
     </message>
     <message>
         <source>standard output</source>
         <extracomment>Stands where the name of a file stands otherwise</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>standard ut</translation>
     </message>
     <message>
         <source>%1: cannot be read: %2</source>
         <extracomment>%1 is a file, %2 the reason in the words of the system</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: kan inte läsas: %2</translation>
     </message>
     <message>
         <source>%1: cannot be written: %2</source>
         <extracomment>%1 is a file, %2 the reason in the words of the system</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: kan inte skrivas: %2</translation>
     </message>
     <message>
         <source>is a folder, not a file</source>
-        <translation type="unfinished"></translation>
+        <translation>är en mapp, inte en fil</translation>
     </message>
     <message>
         <source>%1: more than the limit of %2 bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: större än gränsen på %2 byte</translation>
     </message>
     <message>
         <source>is no regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>är inte en vanlig fil</translation>
     </message>
     <message>
         <source>%1: %2 bytes; the limit is %3 bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 byte; gränsen är %3 byte</translation>
     </message>
 </context>
 <context>
     <name>Headless</name>
     <message>
         <source>the picture cannot be made</source>
-        <translation type="unfinished"></translation>
+        <translation>bilden kan inte skapas</translation>
     </message>
     <message>
         <source>the database has no transitions</source>
-        <translation type="unfinished"></translation>
+        <translation>databasen har inga övergångar</translation>
     </message>
 </context>
 <context>
@@ -244,19 +244,19 @@
     <message>
         <source>a control character in a text</source>
         <extracomment>Behind &quot;not JSON: &quot;; so are the next ones</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>ett styrtecken i en text</translation>
     </message>
     <message>
         <source>an unknown escape sequence</source>
-        <translation type="unfinished"></translation>
+        <translation>en okänd escape-sekvens</translation>
     </message>
     <message>
         <source>the key %1 is given twice</source>
-        <translation type="unfinished"></translation>
+        <translation>nyckeln %1 förekommer två gånger</translation>
     </message>
     <message>
         <source>an incomplete number</source>
-        <translation type="unfinished"></translation>
+        <translation>ett ofullständigt tal</translation>
     </message>
 </context>
 <context>
@@ -264,11 +264,11 @@
     <message>
         <source>there is no display to open a window on: %1 is not set</source>
         <extracomment>%1 is a variable of the environment</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>det finns ingen display att öppna ett fönster på: %1 är inte satt</translation>
     </message>
     <message>
         <source>there is no display to open a window on: neither DISPLAY nor WAYLAND_DISPLAY is set</source>
-        <translation type="unfinished"></translation>
+        <translation>det finns ingen display att öppna ett fönster på: varken DISPLAY eller WAYLAND_DISPLAY är satt</translation>
     </message>
 </context>
 <context>
@@ -276,12 +276,12 @@
     <message>
         <source>CondTree Workbench</source>
         <extracomment>The name of the program, in titles of windows</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>CondTree Workbench</translation>
     </message>
     <message>
         <source>%1: %2</source>
         <extracomment>%1 is a file, a field, a transition or what could not be done, %2 what is wrong with it</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -289,88 +289,89 @@
     <message>
         <source>the database; without it the sample database is opened</source>
         <extracomment>Of --db. This and what follows are lines of the list of options</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>databasen; annars öppnas exempeldatabasen</translation>
     </message>
     <message>
         <source>the login name</source>
-        <translation type="unfinished"></translation>
+        <translation>inloggningsnamnet</translation>
     </message>
     <message>
         <source>the transition, WORKFLOW/NAME as --list has it</source>
         <extracomment>WORKFLOW and NAME may be translated</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>övergången som WORKFLOW/NAME, så som --list visar den</translation>
     </message>
     <message>
         <source>the language, such as de or pt_BR; without it the user&apos;s own</source>
-        <translation type="unfinished"></translation>
+        <translation>språket, till exempel sv eller pt_BR; annars användarens eget</translation>
     </message>
     <message>
         <source>print the transitions</source>
-        <translation type="unfinished"></translation>
+        <translation>visa övergångarna</translation>
     </message>
     <message>
         <source>print the transition&apos;s condition as a tree</source>
-        <translation type="unfinished"></translation>
+        <translation>visa övergångens villkor som ett träd</translation>
     </message>
     <message>
         <source>write the condition as JSON; - is the standard output</source>
-        <translation type="unfinished"></translation>
+        <translation>skriv villkoret som JSON; - är standard ut</translation>
     </message>
     <message>
         <source>store a condition from JSON; - is the standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>spara ett villkor från JSON; - är standard in</translation>
     </message>
     <message>
         <source>draw the window to a PNG picture</source>
-        <translation type="unfinished"></translation>
+        <translation>rita fönstret som en PNG-bild</translation>
     </message>
     <message>
         <source>print this text</source>
-        <translation type="unfinished"></translation>
+        <translation>visa den här hjälpen</translation>
     </message>
     <message>
         <source>print the version</source>
-        <translation type="unfinished"></translation>
+        <translation>visa versionen</translation>
     </message>
     <message>
         <source>%1 needs %2</source>
         <extracomment>%1 and %2 are options</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 kräver %2</translation>
     </message>
     <message>
         <source>unexpected argument %1</source>
-        <translation type="unfinished"></translation>
+        <translation>oväntat argument %1</translation>
     </message>
     <message>
         <source>unknown option %1</source>
-        <translation type="unfinished"></translation>
+        <translation>okänd flagga %1</translation>
     </message>
     <message>
         <source>%1 takes no value</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 tar inget värde</translation>
     </message>
     <message>
         <source>%1 needs a value: %2</source>
         <extracomment>%1 is an option, %2 the kind of value, as FILE</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 kräver ett värde: %2</translation>
     </message>
     <message>
         <source>%1 is given twice</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 har angetts två gånger</translation>
     </message>
     <message>
         <source>Usage: condtree-workbench [OPTION]...</source>
-        <translation type="unfinished"></translation>
+        <translation>Användning: condtree-workbench [FLAGGA]...</translation>
     </message>
     <message>
         <source>Edit the conditions of workflow transitions.</source>
-        <translation type="unfinished"></translation>
+        <translation>Redigera villkoren för övergångar i arbetsflöden.</translation>
     </message>
     <message>
         <source>With --list, --print, --export, --import or --screenshot no window is opened and no display
 is needed.</source>
         <extracomment>Lines of at most 100 characters</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Med --list, --print, --export, --import eller --screenshot öppnas inget fönster och ingen
+display behövs.</translation>
     </message>
 </context>
 <context>
@@ -378,22 +379,22 @@ is needed.</source>
     <message>
         <source>&amp;OK</source>
         <extracomment>A button of a message box on a GNOME desktop</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;OK</translation>
     </message>
     <message>
         <source>&amp;Save</source>
         <extracomment>A button of a message box on a GNOME desktop</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Spara</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
         <extracomment>A button of a message box on a GNOME desktop</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Avbryt</translation>
     </message>
     <message>
         <source>Close without Saving</source>
         <extracomment>A button of a message box on a GNOME desktop: goes on and gives up the changes</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Stäng utan att spara</translation>
     </message>
 </context>
 <context>
@@ -401,22 +402,22 @@ is needed.</source>
     <message>
         <source>OK</source>
         <extracomment>A button of a message box</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Save</source>
         <extracomment>A button of a message box</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Spara</translation>
     </message>
     <message>
         <source>Cancel</source>
         <extracomment>A button of a message box</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Avbryt</translation>
     </message>
     <message>
         <source>Discard</source>
         <extracomment>A button of a message box: gives up the changes</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Förkasta</translation>
     </message>
 </context>
 <context>
@@ -424,19 +425,19 @@ is needed.</source>
     <message>
         <source>%1, %2</source>
         <extracomment>The beginning of a list of row numbers, &quot;1, 2 and 9&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>%1 and %2</source>
         <extracomment>The end of a list of row numbers, &quot;1, 2 and 9&quot;: %2 is the last one</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 och %2</translation>
     </message>
     <message numerus="yes">
         <source>%1 and %n more</source>
         <extracomment>A list of row numbers that is cut: &quot;1, 2, 3, 4, 5 and 7 more&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 och %n till</numerusform>
+            <numerusform>%1 och %n till</numerusform>
         </translation>
     </message>
 </context>
@@ -444,155 +445,155 @@ is needed.</source>
     <name>SaveRefusal</name>
     <message>
         <source>Row %1: the name holds a character that the database cannot hold.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rad %1: namnet innehåller ett tecken som databasen inte kan lagra.</translation>
     </message>
     <message>
         <source>Row %1: the remark holds a character that the database cannot hold.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rad %1: anmärkningen innehåller ett tecken som databasen inte kan lagra.</translation>
     </message>
     <message>
         <source>Row %1: the value holds a character that the database cannot hold.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rad %1: värdet innehåller ett tecken som databasen inte kan lagra.</translation>
     </message>
     <message>
         <source>Row %1: the name is larger than 16 MiB, which the database cannot hold.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rad %1: namnet är större än 16 MiB, vilket är mer än databasen kan lagra.</translation>
     </message>
     <message>
         <source>Row %1: the remark is larger than 16 MiB, which the database cannot hold.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rad %1: anmärkningen är större än 16 MiB, vilket är mer än databasen kan lagra.</translation>
     </message>
     <message>
         <source>Row %1: the value is larger than 16 MiB, which the database cannot hold.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rad %1: värdet är större än 16 MiB, vilket är mer än databasen kan lagra.</translation>
     </message>
     <message>
         <source>The condition was saved by somebody else after it was loaded; your changes were not saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Villkoret sparades av någon annan efter att det hade lästs in; dina ändringar har inte sparats.</translation>
     </message>
     <message>
         <source>The condition was saved by %1 after it was loaded; your changes were not saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Villkoret sparades av %1 efter att det hade lästs in; dina ändringar har inte sparats.</translation>
     </message>
     <message>
         <source>The condition was saved by %1 (%2) after it was loaded; your changes were not saved.</source>
         <extracomment>%1 is a login name, %2 a date and time</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Villkoret sparades av %1 (%2) efter att det hade lästs in; dina ändringar har inte sparats.</translation>
     </message>
 </context>
 <context>
     <name>condtree::workbench::ConditionEditor</name>
     <message>
         <source>Never changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Aldrig ändrat</translation>
     </message>
     <message>
         <source>Last changed by %1, %2</source>
         <extracomment>%1 is a login name, %2 a date and time</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Senast ändrat av %1, %2</translation>
     </message>
     <message>
         <source>Condition</source>
         <extracomment>What the rows are to those who hear the window</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Villkor</translation>
     </message>
     <message>
         <source>There is no transition to save.</source>
-        <translation type="unfinished"></translation>
+        <translation>Det finns ingen övergång att spara.</translation>
     </message>
     <message>
         <source>There is no transition to import into.</source>
-        <translation type="unfinished"></translation>
+        <translation>Det finns ingen övergång att importera till.</translation>
     </message>
     <message numerus="yes">
         <source>Saving will drop %n of the %1 record(s) that were read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>När du sparar tas %n av %1 inlästa poster bort.</numerusform>
+            <numerusform>När du sparar tas %n av %1 inlästa poster bort.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Saving will store something else than was read: %n of the %1 record(s), row(s) %2.</source>
+        <source>Saving will store something other than what was read: %n of the %1 record(s), row(s) %2.</source>
         <extracomment>%n counts the records that change, %1 all; %2 names the first: &quot;3&quot;, &quot;1, 2 and 9&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>När du sparar lagras något annat än det som lästes in: %n av %1 poster, rad %2.</numerusform>
+            <numerusform>När du sparar lagras något annat än det som lästes in: %n av %1 poster, raderna %2.</numerusform>
         </translation>
     </message>
     <message>
         <source>No transition is open</source>
-        <translation type="unfinished"></translation>
+        <translation>Ingen övergång är öppen</translation>
     </message>
     <message>
         <source>%1: %2 → %3</source>
         <extracomment>A workflow and the states that a transition goes from and to</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 → %3</translation>
     </message>
 </context>
 <context>
     <name>condtree::workbench::MainWindow</name>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Spara</translation>
     </message>
     <message>
         <source>&amp;Revert</source>
-        <translation type="unfinished"></translation>
+        <translation>Åte&amp;rställ</translation>
     </message>
     <message>
         <source>&amp;Import…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Importera…</translation>
     </message>
     <message>
         <source>&amp;Export…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Exportera…</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Avsluta</translation>
     </message>
     <message>
         <source>&amp;Condition</source>
         <extracomment>The menu of what is done with a condition</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Villkor</translation>
     </message>
     <message>
         <source>Condition</source>
         <extracomment>The name of the tool bar, as its context menu shows it</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Villkor</translation>
     </message>
     <message>
         <source>&amp;Transitions</source>
-        <translation type="unfinished"></translation>
+        <translation>Över&amp;gångar</translation>
     </message>
     <message>
         <source>%1 on %2</source>
         <extracomment>%1 is a login name, %2 the name of a database</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 på %2</translation>
     </message>
     <message>
         <source>Nothing was stored, and your changes are still here. You can export them to a file, or revert to the condition in the database.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ingenting har lagrats och dina ändringar finns kvar. Du kan exportera dem till en fil eller återställa villkoret från databasen.</translation>
     </message>
     <message>
         <source>Saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sparat.</translation>
     </message>
     <message>
         <source>There is nothing to save.</source>
-        <translation type="unfinished"></translation>
+        <translation>Det finns inget att spara.</translation>
     </message>
     <message>
         <source>Read from the database again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Villkoret har lästs in från databasen igen.</translation>
     </message>
     <message>
         <source>Imported. Save stores it in the database.</source>
-        <translation type="unfinished"></translation>
+        <translation>Importerat. Välj ”Spara” för att lagra villkoret i databasen.</translation>
     </message>
     <message>
         <source>Exported to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporterat till %1</translation>
     </message>
 </context>
 <context>
@@ -600,31 +601,31 @@ is needed.</source>
     <message>
         <source>Workflows and their transitions</source>
         <extracomment>What the list is to those who hear the window</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Arbetsflöden och deras övergångar</translation>
     </message>
     <message>
         <source>* %1</source>
         <extracomment>The mark in front of a transition whose condition has changes that are not saved</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>* %1</translation>
     </message>
     <message>
         <source>%1 (not saved)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (osparade ändringar)</translation>
     </message>
     <message>
         <source>empty</source>
         <extracomment>Stands in place of the number of rows of a condition; short, for a narrow column</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>tomt</translation>
     </message>
     <message>
         <source>There is no condition yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Det finns inget villkor ännu</translation>
     </message>
     <message numerus="yes">
         <source>The condition has %n row(s) and group(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Villkoret har en rad eller grupp</numerusform>
+            <numerusform>Villkoret har %n rader och grupper</numerusform>
         </translation>
     </message>
 </context>

@@ -276,17 +276,17 @@ Voici la configuration minimale requise&#xa0;:</translation>
     <message>
         <source>The condition was saved by somebody else after it was loaded; your changes were not saved. Load the condition again and repeat your changes.</source>
         <comment>StoredProcs 1</comment>
-        <translation>La condition a été enregistrée par quelqu’un d’autre après son chargement ; vos modifications n’ont pas été enregistrées. Rechargez la condition et refaites vos modifications.</translation>
+        <translation>La condition a été enregistrée par quelqu’un d’autre après son chargement&#xa0;; vos modifications n’ont pas été enregistrées. Rechargez la condition et refaites vos modifications.</translation>
     </message>
     <message>
         <source>A text holds a character that the database cannot hold; your changes were not saved. Remove the character and save again.</source>
         <comment>StoredProcs 2</comment>
-        <translation>Un texte contient un caractère que la base de données ne peut pas stocker ; vos modifications n’ont pas été enregistrées. Supprimez ce caractère et enregistrez à nouveau.</translation>
+        <translation>Un texte contient un caractère que la base de données ne peut pas stocker&#xa0;; vos modifications n’ont pas été enregistrées. Supprimez ce caractère et enregistrez à nouveau.</translation>
     </message>
     <message>
         <source>A text is larger than 16 MiB, which the database cannot hold; your changes were not saved. Shorten the text and save again.</source>
         <comment>StoredProcs 3</comment>
-        <translation>Un texte dépasse 16 Mio, ce que la base de données ne peut pas stocker ; vos modifications n’ont pas été enregistrées. Raccourcissez le texte et enregistrez à nouveau.</translation>
+        <translation>Un texte dépasse 16&#xa0;Mio, ce que la base de données ne peut pas stocker&#xa0;; vos modifications n’ont pas été enregistrées. Raccourcissez le texte et enregistrez à nouveau.</translation>
     </message>
 </context>
 <context>

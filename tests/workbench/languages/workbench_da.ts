@@ -53,7 +53,7 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>Saving will store something else than was read: %n of the %1 record(s), row(s) %2.</source>
+        <source>Saving will store something other than what was read: %n of the %1 record(s), row(s) %2.</source>
         <translation>
             <numerusform>Én af %1 poster ændres: række %2.</numerusform>
             <numerusform>%n af %1 poster ændres: rækkerne %2.</numerusform>
