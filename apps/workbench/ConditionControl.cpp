@@ -11,6 +11,12 @@ namespace {
 
 // The style that databases and files share: year, month, day; no two users read it differently.
 constexpr LONG kDateStyle = 120;
+
+// The names of operators are the longest texts of a row; in a window of the first size, the longest
+// of them in any language is to be seen whole.
+constexpr int kWholeRow = 100;
+constexpr int kNameShare = 23;
+constexpr int kOperatorShare = 30;
 // Every kind of condition is offered that a full vault has, but for users and groups, which belong
 // to the one tree type that leaves child reference states out.
 constexpr KiroVaultType kVaultType{0};
@@ -90,6 +96,8 @@ ConditionControl::ConditionControl(SpMgr* manager, QWidget* parent, Services ser
     , m_messages(std::move(messages))
 {
     mvInitialize(manager, kDateStyle, kVaultType, kTreeType);
+    mvResizeCol(0, kNameShare, kWholeRow);
+    mvResizeCol(1, kOperatorShare, kWholeRow);
 }
 
 MaybeFailure ConditionControl::prepare(const ConditionRecords& records)

@@ -1,5 +1,7 @@
 #include "WindowFixture.h"
 
+#include <condtree/platform/StrMgr.h>
+
 using namespace condtree;
 using namespace condtree::test;
 using namespace condtree::workbench;
@@ -45,6 +47,23 @@ TEST_F(Window, NoTransitionOfTheSampleIsUnsavedRightAfterLoading)
 TEST_F(Window, ItTellsWhereItIsConnected)
 {
     EXPECT_EQ(label("connection"), QStringLiteral("%1 on sample.db").arg(m_database->userName()));
+}
+
+TEST_F(Window, ItsFirstSizeShowsEveryOperatorOfEveryLanguageWhole)
+{
+    const ConditionControl& control = editor().control();
+    const QModelIndex nested = control.model()->index(0, 0, control.model()->index(3, 0));
+    const int row = control.viewport()->width() - control.visualRect(nested).left();
+    const int icon = realServices().systemMetric(SM_CXSMICON);
+    const int room = control.miGetColumnSize(1, row) - icon - 6; // the margins of icon and text
+    for (const char* language : {"", "de", "es", "fr", "ja", "sv"}) {
+        useLanguage(*qApp, QLatin1String(language));
+        for (LONG op = 100; op < 140; ++op) {
+            const QString name = TSS_internal(op, u"OpName", u"Search", u"?");
+            EXPECT_LE(control.fontMetrics().horizontalAdvance(name), room) << name.toStdString();
+        }
+    }
+    useLanguage(*qApp, {});
 }
 
 TEST_F(Window, NamesAreNeverReadAsMarkUp)

@@ -248,22 +248,22 @@ Mindestens erforderlich ist:</translation>
     <message>
         <source>Date Less Than</source>
         <comment>OpName 132</comment>
-        <translation>Datum liegt vor</translation>
+        <translation>Datum ist vor</translation>
     </message>
     <message>
         <source>Date Bigger Than</source>
         <comment>OpName 133</comment>
-        <translation>Datum liegt nach</translation>
+        <translation>Datum ist nach</translation>
     </message>
     <message>
         <source>Date Less Than or Equal</source>
         <comment>OpName 134</comment>
-        <translation>Datum liegt vor oder ist gleich</translation>
+        <translation>Datum ist spätestens</translation>
     </message>
     <message>
         <source>Date Bigger Than or Equal</source>
         <comment>OpName 135</comment>
-        <translation>Datum liegt nach oder ist gleich</translation>
+        <translation>Datum ist frühestens</translation>
     </message>
     <message>
         <source>Binary Equal To</source>

@@ -183,12 +183,12 @@ Voici la configuration minimale requise&#xa0;:</translation>
     <message>
         <source>String Less Than or Equal</source>
         <comment>OpName 104</comment>
-        <translation>Texte inférieur ou égal à</translation>
+        <translation>Texte au plus égal à</translation>
     </message>
     <message>
         <source>String Bigger Than or Equal</source>
         <comment>OpName 105</comment>
-        <translation>Texte supérieur ou égal à</translation>
+        <translation>Texte au moins égal à</translation>
     </message>
     <message>
         <source>String Contains</source>
@@ -228,12 +228,12 @@ Voici la configuration minimale requise&#xa0;:</translation>
     <message>
         <source>Number Less Than or Equal</source>
         <comment>OpName 124</comment>
-        <translation>Nombre inférieur ou égal à</translation>
+        <translation>Nombre au plus égal à</translation>
     </message>
     <message>
         <source>Number Bigger Than or Equal</source>
         <comment>OpName 125</comment>
-        <translation>Nombre supérieur ou égal à</translation>
+        <translation>Nombre au moins égal à</translation>
     </message>
     <message>
         <source>Date Equal To</source>
@@ -258,12 +258,12 @@ Voici la configuration minimale requise&#xa0;:</translation>
     <message>
         <source>Date Less Than or Equal</source>
         <comment>OpName 134</comment>
-        <translation>Date antérieure ou égale à</translation>
+        <translation>Date au plus tard le</translation>
     </message>
     <message>
         <source>Date Bigger Than or Equal</source>
         <comment>OpName 135</comment>
-        <translation>Date postérieure ou égale à</translation>
+        <translation>Date au plus tôt le</translation>
     </message>
     <message>
         <source>Binary Equal To</source>

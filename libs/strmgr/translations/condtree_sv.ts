@@ -183,12 +183,12 @@ Följande är minimikravet:</translation>
     <message>
         <source>String Less Than or Equal</source>
         <comment>OpName 104</comment>
-        <translation>Text mindre än eller lika med</translation>
+        <translation>Text högst</translation>
     </message>
     <message>
         <source>String Bigger Than or Equal</source>
         <comment>OpName 105</comment>
-        <translation>Text större än eller lika med</translation>
+        <translation>Text minst</translation>
     </message>
     <message>
         <source>String Contains</source>
@@ -228,12 +228,12 @@ Följande är minimikravet:</translation>
     <message>
         <source>Number Less Than or Equal</source>
         <comment>OpName 124</comment>
-        <translation>Tal mindre än eller lika med</translation>
+        <translation>Tal högst</translation>
     </message>
     <message>
         <source>Number Bigger Than or Equal</source>
         <comment>OpName 125</comment>
-        <translation>Tal större än eller lika med</translation>
+        <translation>Tal minst</translation>
     </message>
     <message>
         <source>Date Equal To</source>
@@ -258,12 +258,12 @@ Följande är minimikravet:</translation>
     <message>
         <source>Date Less Than or Equal</source>
         <comment>OpName 134</comment>
-        <translation>Datum tidigare än eller lika med</translation>
+        <translation>Datum senast</translation>
     </message>
     <message>
         <source>Date Bigger Than or Equal</source>
         <comment>OpName 135</comment>
-        <translation>Datum senare än eller lika med</translation>
+        <translation>Datum tidigast</translation>
     </message>
     <message>
         <source>Binary Equal To</source>
