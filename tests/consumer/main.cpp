@@ -7,6 +7,7 @@
 #include <condtree/model/TransCond.h>
 #include <condtree/model/TreeType.h>
 #include <condtree/model/VarTreeCtrlNode.h>
+#include <condtree/platform/Automation.h>
 #include <condtree/platform/Export.h>
 #include <condtree/platform/IconLibrary.h>
 #include <condtree/platform/Lst.h>
@@ -27,6 +28,7 @@
 #include <condtree/storedprocs/SpTransitions.h>
 #include <condtree/strmgr/Language.h>
 #include <condtree/strmgr/StringTable.h>
+#include <condtree/values/LocaleDate.h>
 
 #include <QApplication>
 #include <QFile>
