@@ -1,5 +1,7 @@
 #include "LocaleDate.h"
 
+#include "DateGrammar.h"
+
 #include <condtree/platform/Automation.h>
 
 #include <QDate>
@@ -9,12 +11,9 @@ namespace condtree {
 
 bool ParseDateByLocale(const CString& text, double& result, const QLocale& locale)
 {
-    const QDate date = locale.toDate(text, QLocale::ShortFormat);
-    if (!date.isValid())
-        return false;
-    const auto field = [](int value) { return static_cast<std::uint16_t>(value); };
-    return SystemTimeToVariantTime(
-        {field(date.year()), field(date.month()), 0, field(date.day()), 0, 0, 0, 0}, result);
+    const auto fields =
+        calendarFieldsOf(text, localeDateRules(locale), QDate::currentDate().year());
+    return fields && SystemTimeToVariantTime(*fields, result);
 }
 
 bool ParseDateByLocale(const CString& text, double& result)

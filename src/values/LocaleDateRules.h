@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QString>
+
+#include <vector>
+
+class QLocale;
+
+namespace condtree {
+
+enum class DayHalf { None, Am, Pm };
+
+/// What a word can mean in a date. It may mean several things: "mar" is Tuesday and March in
+/// Italian.
+struct DateWord {
+    /// Of a year, from 1; 0 for what is no month.
+    int month = 0;
+    bool isWeekday = false;
+    /// Stands between the fields and says nothing, as "de" in "5 de maio de 2024".
+    bool isFiller = false;
+    DayHalf half = DayHalf::None;
+};
+
+struct NamedDateWord {
+    QString name;
+    DateWord meaning;
+};
+
+/// Where the fields of a date stand among its three numbers.
+struct FieldOrder {
+    int year, month, day;
+};
+
+/// How users of a locale write dates and times.
+struct LocaleDateRules {
+    FieldOrder order;
+    /// A full stop stands between the fields of a date; elsewhere it stands between those of a
+    /// time.
+    bool stopSeparatesDates = false;
+    /// A full stop may stand behind the last field of a date, too.
+    bool stopClosesDates = false;
+    /// The half of the day may stand in front of the time.
+    bool halfLeads = false;
+    /// In no order; the same name may be there more than once, and one may be empty.
+    std::vector<NamedDateWord> words;
+};
+
+[[nodiscard]] LocaleDateRules localeDateRules(const QLocale& locale);
+
+} // namespace condtree
