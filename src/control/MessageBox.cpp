@@ -2,78 +2,37 @@
 
 #include <QAccessible>
 #include <QApplication>
-#include <QDialog>
-#include <QDialogButtonBox>
 #include <QEvent>
+#include <QLabel>
+#include <QLayout>
+#include <QMessageBox>
 #include <QPointer>
-#include <QPushButton>
+#include <QRegularExpression>
 #include <QScreen>
-#include <QScrollBar>
+#include <QScrollArea>
 #include <QStringList>
-#include <QTextDocument>
-#include <QTextEdit>
-#include <QVBoxLayout>
 #include <QWindow>
-
-#include <cmath>
 
 namespace condtree {
 
 namespace {
 
-// The widest line, in characters, and how much of the screen's height the text may take.
-constexpr int kLineLength = 90;
+// As wide as QMessageBox makes a text that it wraps: a narrower one it would not wrap.
+constexpr int kScrolledWidth = 500;
+// How much of the height of the screen the text may take.
 constexpr double kShareOfHeight = 0.6;
-constexpr int kMargin = 16;
 
-/// The text of a message: it wraps wherever it must, scrolls when it is long, and can be selected.
-class MessageText final : public QTextEdit {
-public:
-    explicit MessageText(QWidget* parent);
-    /// Sets the text and takes the size that it needs, at most a share of the room.
-    void show(const QString& text, const QSize& room);
-};
-
-MessageText::MessageText(QWidget* parent)
-    : QTextEdit(parent)
+// QLabel wraps between words alone: longer ones than a line take get places to break at, which
+// have no width.
+QString withBreaksInLongWords(QString text)
 {
-    setFrameShape(QFrame::NoFrame);
-    setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    setFocusPolicy(Qt::StrongFocus);
-    setTabChangesFocus(true);
-    document()->setDocumentMargin(0);
-    setBackgroundRole(QPalette::Window);
-    setForegroundRole(QPalette::WindowText);
-    viewport()->setAutoFillBackground(false);
-    QPalette colours = palette();
-    colours.setColor(QPalette::Text, colours.color(QPalette::WindowText));
-    setPalette(colours);
-}
-
-// Measured in a document of its own: the widget's is laid out anew to the size that it has so far.
-void MessageText::show(const QString& text, const QSize& room)
-{
-    QTextDocument measured;
-    measured.setDefaultFont(font());
-    measured.setDefaultTextOption(document()->defaultTextOption());
-    measured.setDocumentMargin(0);
-    measured.setPlainText(text);
-    measured.setTextWidth(
-        qMin(kLineLength * fontMetrics().averageCharWidth(), room.width() * 3 / 4));
-    const int width = static_cast<int>(std::ceil(measured.idealWidth())) + 1;
-    measured.setTextWidth(width);
-    const int height = static_cast<int>(std::ceil(measured.size().height()));
-    const int highest = static_cast<int>(room.height() * kShareOfHeight);
-    const int bar = height > highest ? verticalScrollBar()->sizeHint().width() + kMargin / 2 : 0;
-    setPlainText(text);
-    setFixedSize(width + bar, qMin(height, highest));
+    static const QRegularExpression wordsPart(QStringLiteral("(\\S{60})(?=\\S)"));
+    return text.replace(wordsPart, QStringLiteral("\\1\u200B"));
 }
 
 /// A message over a window. Not the window's child, which would die with it, but its transient:
 /// that is what the toolkit goes by when it blocks the window.
-class MessageBox final : public QDialog {
+class MessageBox final : public QMessageBox {
 public:
     explicit MessageBox(QWidget* window);
 
@@ -85,32 +44,37 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:
-    void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
-    void layOut();
+    void makeTextSelectable();
+    [[nodiscard]] QSize mostOfText() const;
+    [[nodiscard]] bool isHigh(const QString& text) const;
+    void letTextScroll();
     void followWindow();
     void stayOnScreen();
-    void announce();
 
     QPointer<QWidget> m_window;
     bool m_isOverWindow; ///< also when the window is gone
     QPointer<QWidget> m_activeBefore;
     QStringList m_texts;
-    MessageText m_text;
-    QDialogButtonBox m_buttons;
+    QLabel* m_label; ///< QMessageBox's own
+    bool m_isScrolled = false;
 };
 
 MessageBox::MessageBox(QWidget* window)
     : m_window(window)
     , m_isOverWindow(window != nullptr)
     , m_activeBefore(QApplication::activeWindow())
-    , m_text(this)
-    , m_buttons(QDialogButtonBox::Ok, this)
+    , m_label(findChild<QLabel*>(QStringLiteral("qt_msgbox_label")))
 {
-    setObjectName(QStringLiteral("message"));
     setWindowTitle(QApplication::applicationDisplayName());
-    layOut();
+    setIcon(NoIcon);
+    setTextFormat(Qt::PlainText);
+    setStandardButtons(Ok);
+    setDefaultButton(Ok);
+    setEscapeButton(Ok);
+    makeTextSelectable();
     // Whether the application ends is decided by the host's windows alone.
     setAttribute(Qt::WA_QuitOnClose, false);
     setWindowModality(m_isOverWindow ? Qt::WindowModal : Qt::ApplicationModal);
@@ -120,18 +84,20 @@ MessageBox::MessageBox(QWidget* window)
     followWindow();
 }
 
-void MessageBox::layOut()
+// A label whose text can be selected still has to be put where the Tab key goes.
+void MessageBox::makeTextSelectable()
 {
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-    layout->setSpacing(kMargin);
-    layout->setSizeConstraint(QLayout::SetFixedSize);
-    layout->addWidget(&m_text);
-    layout->addWidget(&m_buttons);
-    connect(&m_buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    QPushButton* ok = m_buttons.button(QDialogButtonBox::Ok);
-    ok->setDefault(true);
-    ok->setFocus();
+    setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    if (m_label != nullptr)
+        m_label->setFocusPolicy(Qt::StrongFocus);
+}
+
+// QMessageBox goes back to what a new style says of the text.
+void MessageBox::changeEvent(QEvent* event)
+{
+    QMessageBox::changeEvent(event);
+    if (event->type() == QEvent::StyleChange)
+        makeTextSelectable();
 }
 
 bool MessageBox::isOpenOver(const QWidget* window) const
@@ -145,29 +111,54 @@ void MessageBox::add(const CString& text)
         return;
     m_texts.append(text);
     const QString all = m_texts.join(QStringLiteral("\n\n"));
-    const QScreen* screen = m_window.isNull() ? this->screen() : m_window->screen();
-    m_text.show(all, screen->availableSize());
+    const QString shown = withBreaksInLongWords(all);
+    if (!m_isScrolled && m_label != nullptr && isHigh(shown))
+        letTextScroll();
+    setText(shown);
     setAccessibleDescription(all);
     if (!isVisible())
         return;
-    layout()->activate();
     stayOnScreen();
-    announce();
+    // Screen readers read an alert's description at once.
+    QAccessibleEvent alert(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}
+
+QSize MessageBox::mostOfText() const
+{
+    const QScreen* screen = m_window.isNull() ? this->screen() : m_window->screen();
+    const QSize room = screen->availableSize();
+    return {qMin(kScrolledWidth, room.width() * 3 / 4),
+            static_cast<int>(room.height() * kShareOfHeight)};
+}
+
+bool MessageBox::isHigh(const QString& text) const
+{
+    const QSize most = mostOfText();
+    const QFontMetrics metrics(m_label->font());
+    return metrics.boundingRect(0, 0, most.width(), 0, Qt::TextWordWrap, text).height()
+           > most.height();
+}
+
+// QMessageBox grows with its text, until OK is below the screen.
+void MessageBox::letTextScroll()
+{
+    m_isScrolled = true;
+    auto* area = new QScrollArea(this);
+    delete layout()->replaceWidget(m_label, area);
+    area->setWidget(m_label);
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus); // the label's, which hands on the keys that scroll
+    area->setMinimumSize(mostOfText());
+    area->show(); // the box may be open
 }
 
 void MessageBox::stayOnScreen()
 {
     const QRect room = screen()->availableGeometry();
-    const int below = frameGeometry().bottom() - room.bottom();
-    if (below > 0)
-        move(x(), qMax(room.top(), y() - below));
-}
-
-// Screen readers read an alert's description at once.
-void MessageBox::announce()
-{
-    QAccessibleEvent alert(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
+    const QPoint beyond = frameGeometry().bottomRight() - room.bottomRight();
+    move(qMax(room.left(), x() - qMax(0, beyond.x())), qMax(room.top(), y() - qMax(0, beyond.y())));
 }
 
 // The focus goes back by hand: the toolkit returns it to the window of a child only.
@@ -175,7 +166,7 @@ void MessageBox::setVisible(bool visible)
 {
     const bool isActive = QApplication::activeWindow() == this;
     const QPointer<QWidget> before = m_activeBefore;
-    QDialog::setVisible(visible);
+    QMessageBox::setVisible(visible);
     if (!visible && isActive && !before.isNull() && before->isVisible())
         before->activateWindow();
 }
@@ -186,14 +177,7 @@ bool MessageBox::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == m_window && event->type() == QEvent::Show)
         followWindow();
-    return QDialog::eventFilter(watched, event);
-}
-
-void MessageBox::showEvent(QShowEvent* event)
-{
-    QDialog::showEvent(event);
-    if (!event->spontaneous())
-        announce();
+    return QMessageBox::eventFilter(watched, event);
 }
 
 void MessageBox::followWindow()

@@ -16,12 +16,12 @@ const QString kUnspecified = QStringLiteral("An unspecified error occurred.");
 const QString kMemory = QStringLiteral("Not enough memory to complete the operation.");
 
 /// The box can be read, and the user can close it.
-void expectReadable(QDialog& box, const QString& text)
+void expectReadable(QMessageBox& box, const QString& text)
 {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QCoreApplication::processEvents();
-    EXPECT_EQ(openBoxes(), std::vector<QDialog*>{&box});
-    EXPECT_EQ(shownText(box), text);
+    EXPECT_EQ(openBoxes(), std::vector<QMessageBox*>{&box});
+    EXPECT_EQ(box.text(), text);
     QTest::keyClick(box.windowHandle(), Qt::Key_Return);
     EXPECT_TRUE(openBoxes().empty());
 }
@@ -31,7 +31,7 @@ TEST(MessageBoxLifetime, TheBoxOutlivesItsOwner)
     ClickedWindow window;
     auto owner = std::make_unique<QWidget>(&window);
     window.show();
-    showMessageDuring(owner.get(), kText, [&](QDialog& box) {
+    showMessageDuring(owner.get(), kText, [&](QMessageBox& box) {
         owner.reset();
         EXPECT_EQ(window.clicksAfterOneMore(), 0);
         expectReadable(box, kText);
@@ -42,7 +42,7 @@ TEST(MessageBoxLifetime, TheBoxOutlivesItsWindow)
 {
     auto window = std::make_unique<ClickedWindow>();
     window->showActive();
-    showMessageDuring(window.get(), kText, [&](QDialog& box) {
+    showMessageDuring(window.get(), kText, [&](QMessageBox& box) {
         window.reset();
         expectReadable(box, kText);
     });
@@ -51,7 +51,7 @@ TEST(MessageBoxLifetime, TheBoxOutlivesItsWindow)
 TEST(MessageBoxLifetime, TheBoxOutlivesAWindowThatWasNeverShown)
 {
     auto window = std::make_unique<ClickedWindow>();
-    showMessageDuring(window.get(), kText, [&](QDialog& box) {
+    showMessageDuring(window.get(), kText, [&](QMessageBox& box) {
         window.reset();
         expectReadable(box, kText);
     });
@@ -62,7 +62,7 @@ TEST(MessageBoxLifetime, TheBoxStaysWhenItsWindowIsHiddenOrClosed)
     for (const bool isClosed : {false, true}) {
         ClickedWindow window;
         window.show();
-        showMessageDuring(&window, kText, [&](QDialog& box) {
+        showMessageDuring(&window, kText, [&](QMessageBox& box) {
             if (isClosed)
                 window.close();
             else
@@ -79,11 +79,11 @@ TEST(MessageBoxLifetime, TheBoxOfADeadWindowTakesNothingInOfAnother)
     window->show();
     ClickedWindow other({400, 400});
     other.show();
-    showMessageDuring(window.get(), kText, [&](QDialog& box) {
+    showMessageDuring(window.get(), kText, [&](QMessageBox& box) {
         window.reset();
         for (QWidget* owner : {static_cast<QWidget*>(&other), static_cast<QWidget*>(nullptr)}) {
             showMessageDuring(owner, kMemory,
-                              [](QDialog& second) { EXPECT_EQ(shownText(second), kMemory); });
+                              [](QMessageBox& second) { EXPECT_EQ(second.text(), kMemory); });
         }
         expectReadable(box, kText);
     });
@@ -96,7 +96,7 @@ TEST(MessageBoxLifetime, ThePortMayBeDestroyedWhileItsBoxIsOpen)
     auto ports = std::make_unique<Services>(realServices());
     showMessageDuring(
         &window, kText,
-        [&](QDialog& box) {
+        [&](QMessageBox& box) {
             ports.reset();
             expectReadable(box, kText);
         },
@@ -110,7 +110,7 @@ void quitDuringMessage(const std::function<void()>& quit)
     window.show();
     bool hasReturned = false;
     QTimer::singleShot(0, [&] {
-        showMessageDuring(&window, kText, [&](QDialog&) { quit(); });
+        showMessageDuring(&window, kText, [&](QMessageBox&) { quit(); });
         hasReturned = true;
     });
     QApplication::exec();
@@ -129,7 +129,7 @@ TEST(MessageBoxLifetime, ClosingTheBoxDoesNotEndAnApplicationWithoutWindows)
 {
     const QSignalSpy ended(qApp, &QGuiApplication::lastWindowClosed);
     QTimer::singleShot(0, [&] {
-        showMessageDuring(nullptr, kText, [](QDialog&) {});
+        showMessageDuring(nullptr, kText, [](QMessageBox&) {});
         QTimer::singleShot(0, [] { QApplication::exit(); });
     });
     QApplication::exec();
@@ -165,7 +165,7 @@ TEST_F(ControlWithRealBox, AFailedLoaderBlocksTheControlsWindow)
 {
     bool isLoaded = true;
     test::duringMessage([&] { isLoaded = control->mbInitUsers(); },
-                        [&](QDialog& box) {
+                        [&](QMessageBox& box) {
                             EXPECT_EQ(window->clicksAfterOneMore(), 0);
                             expectReadable(box, kUnspecified);
                         });
@@ -200,7 +200,7 @@ TEST_F(ControlWithRealBox, EveryOperationThatShowsAMessageSurvivesTheControl)
             library->getGroups.results = {E_FAIL};
             library->getVariables.results = {E_FAIL};
             window->showActive();
-            test::duringMessage(call, [&](QDialog& box) {
+            test::duringMessage(call, [&](QMessageBox& box) {
                 if (isWindowDeleted)
                     deleteWindow();
                 else
@@ -215,7 +215,7 @@ TEST_F(ControlWithRealBox, EveryOperationThatShowsAMessageSurvivesTheControl)
 TEST_F(ControlWithRealBox, TheSameFailureAgainIsNotASecondBox)
 {
     test::duringMessage([&] { control->mbInitUsers(); },
-                        [&](QDialog& box) {
+                        [&](QMessageBox& box) {
                             expectToJoin([&] { EXPECT_FALSE(control->mbInitUsers()); });
                             expectToJoin([&] { EXPECT_FALSE(control->mbInitVars()); });
                             EXPECT_EQ(library->getUsers.calls, 2);
@@ -226,7 +226,7 @@ TEST_F(ControlWithRealBox, TheSameFailureAgainIsNotASecondBox)
 TEST_F(ControlWithRealBox, AnotherFailureJoinsTheOpenBox)
 {
     test::duringMessage([&] { control->mbInitUsers(); },
-                        [&](QDialog& box) {
+                        [&](QMessageBox& box) {
                             expectToJoin([&] { EXPECT_FALSE(control->mbInitGroups()); });
                             expectReadable(box, kUnspecified + QStringLiteral("\n\n") + kMemory);
                         });
@@ -237,7 +237,7 @@ TEST_F(ControlWithRealBox, AnotherControlOfTheWindowJoinsTheOpenBox)
     OpenCtrl second(window.get());
     second.mvInitialize(library.get(), 120, KiroVaultType{}, TreeType{});
     test::duringMessage([&] { control->mbInitUsers(); },
-                        [&](QDialog& box) {
+                        [&](QMessageBox& box) {
                             expectToJoin([&] { EXPECT_FALSE(second.mbInitUsers()); });
                             expectToJoin([&] { EXPECT_FALSE(second.mbInitGroups()); });
                             expectReadable(box, kUnspecified + QStringLiteral("\n\n") + kMemory);
@@ -247,7 +247,7 @@ TEST_F(ControlWithRealBox, AnotherControlOfTheWindowJoinsTheOpenBox)
 TEST_F(ControlWithRealBox, TheControlMayDieAfterAnotherFailureHasJoined)
 {
     test::duringMessage([&] { control->mbInitUsers(); },
-                        [&](QDialog& box) {
+                        [&](QMessageBox& box) {
                             expectToJoin([&] { control->mbInitGroups(); });
                             deleteWindow();
                             expectReadable(box, kUnspecified + QStringLiteral("\n\n") + kMemory);

@@ -5,11 +5,11 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QDialog>
+#include <QLabel>
+#include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
 #include <QTest>
-#include <QTextEdit>
 #include <QTimer>
 
 #include <functional>
@@ -19,36 +19,31 @@
 namespace condtree::test {
 
 /// The open messages.
-inline std::vector<QDialog*> openBoxes()
+inline std::vector<QMessageBox*> openBoxes()
 {
-    std::vector<QDialog*> boxes;
+    std::vector<QMessageBox*> boxes;
     for (QWidget* widget : QApplication::topLevelWidgets()) {
-        if (auto* box = qobject_cast<QDialog*>(widget);
-            box != nullptr && box->isVisible() && box->objectName() == QStringLiteral("message"))
+        if (auto* box = qobject_cast<QMessageBox*>(widget); box != nullptr && box->isVisible())
             boxes.push_back(box);
     }
     return boxes;
 }
 
-inline QTextEdit& textOf(const QDialog& box)
+/// The label that shows the text.
+inline QLabel& textOf(const QMessageBox& box)
 {
-    return *box.findChild<QTextEdit*>();
-}
-
-inline QString shownText(const QDialog& box)
-{
-    return textOf(box).toPlainText();
+    return *box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
 }
 
 /// Calls something that shows a message and runs a script while the message is open. A box that the
 /// script leaves open is closed.
 inline void duringMessage(const std::function<void()>& call,
-                          const std::function<void(QDialog&)>& script)
+                          const std::function<void(QMessageBox&)>& script)
 {
     bool hasRun = false;
-    QPointer<QDialog> box;
+    QPointer<QMessageBox> box;
     QTimer::singleShot(0, [&] {
-        box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         ASSERT_FALSE(box.isNull());
         EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == box; }));
         script(*box);
@@ -81,7 +76,7 @@ inline void joinMessage(QWidget* owner, const QString& text)
 
 /// Shows a message with the real port and runs a script while it is open.
 inline void showMessageDuring(QWidget* owner, const QString& text,
-                              const std::function<void(QDialog&)>& script,
+                              const std::function<void(QMessageBox&)>& script,
                               const Services& ports = realServices())
 {
     duringMessage([&] { ports.messageBox(owner, text, MB_OK); }, script);

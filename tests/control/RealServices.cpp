@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QDateTime>
+#include <QMessageBox>
 #include <QScreen>
 #include <QTimer>
 #include <QWidget>
@@ -51,9 +52,9 @@ TEST(RealServices, AMessageIsABoxThatIsWaitedFor)
     owner.show();
     QString seen;
     QTimer::singleShot(0, [&] {
-        QWidget* box = QApplication::activeModalWidget();
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         ASSERT_NE(box, nullptr);
-        seen = box->accessibleDescription();
+        seen = box->text();
         box->close();
     });
     realServices().messageBox(&owner, QStringLiteral("text"), MB_OK);
