@@ -19,6 +19,7 @@
 #include <condtree/platform/StrMgr.h>
 #include <condtree/platform/TextRef.h>
 #include <condtree/platform/TreeVocabulary.h>
+#include <condtree/platform/WfIcons.h>
 #include <condtree/platform/WinTypes.h>
 #include <condtree/presentation/CDPIHelper.h>
 #include <condtree/refdata/ErrorText.h>
