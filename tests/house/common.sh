@@ -37,7 +37,8 @@ allowed_folders() {
 allowed_modules() {
     case "$1" in
         storedprocs) echo Core Sql ;;
-        presentation | wficons) echo Core Gui ;;
+        wficons) echo Core Gui Svg ;;
+        presentation) echo Core Gui ;;
         editing | control) echo Core Gui Widgets ;;
         *) echo Core ;;
     esac

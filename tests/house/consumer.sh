@@ -36,6 +36,14 @@ diff "$consumer/expected.txt" "$work/printed.txt" || fail "the host prints somet
 # The libraries of the prefix find one another.
 "$work/prefix/bin/condtree-workbench" --version >/dev/null || fail "the installed workbench does not start"
 
+# The module lies where the control looks for it, and finds the libraries of the same prefix.
+libdir="$(dirname "$(find "$work/prefix" -name libcondtree-platform.so)")"
+module="$libdir/condtree/libWfIcons.so"
+needed="$(LC_ALL=C ldd "$module" 2>&1)" || fail "the icon library: $needed"
+platform="$(sed -nE 's,.*libcondtree-platform.* => ([^ ]+) .*,\1,p' <<<"$needed")"
+[[ "$(realpath "$platform")" == "$(realpath "$libdir/libcondtree-platform.so")" ]] ||
+    fail "the icon library finds '$platform'"
+
 pc_dir="$(dirname "$(find "$work/prefix" -name condtree.pc)")"
 pc() { PKG_CONFIG_PATH="$pc_dir" pkg-config "$@"; }
 # shellcheck disable=SC2046,SC2086 # flags are words
