@@ -129,7 +129,7 @@ TEST(OperatorStrips, EdgesBearTheirOwnColourAndNoSilver)
     const QRgb red = mainColour(image);
     int soft = 0;
     for (int y = 0; y < 16; ++y) {
-        const QRgb left = image.pixel(0, y);
+        const QRgb left = image.pixel(1, y);
         if (qAlpha(left) < 64 || qAlpha(left) == 255)
             continue;
         ++soft;
@@ -192,6 +192,16 @@ TEST(OperatorStrips, TypesDifferInShapeToo)
     }
 }
 
+TEST(OperatorStrips, LeaveTheLineFreeWhereARowHasItsFrame)
+{
+    for (const int height : kHeights) {
+        for (const QImage& image : operatorImages(height)) {
+            for (int x = 0; x < height; ++x)
+                EXPECT_EQ(image.pixel(x, 0), kSilver) << x << " at " << height;
+        }
+    }
+}
+
 TEST(OperatorStrips, BarsBeginAndEndAtWholePixels)
 {
     // Down the middle of "equal" there is nothing but the clear, the tile and the white of bars.
@@ -201,12 +211,15 @@ TEST(OperatorStrips, BarsBeginAndEndAtWholePixels)
             const QImage& image = images.at(static_cast<std::size_t>(index));
             const QRgb tile = mainColour(image);
             int edges = 0;
+            QRgb above = kSilver;
             for (int y = 0; y < height; ++y) {
                 const QRgb pixel = image.pixel(height / 2, y);
                 EXPECT_TRUE(pixel == kSilver || pixel == tile || pixel == kWhite)
                     << index << " at " << height << ", line " << y << ": " << std::hex << pixel;
-                edges += y > 0 && pixel != image.pixel(height / 2, y - 1) ? 1 : 0;
+                edges += pixel != above ? 1 : 0;
+                above = pixel;
             }
+            edges += above != kSilver ? 1 : 0;
             EXPECT_EQ(edges, 6) << index << " at " << height;
         }
     }
