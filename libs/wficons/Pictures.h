@@ -29,7 +29,7 @@ struct Picture {
 
 /// Draws every cell at a size in pixels, side by side, in Format_ARGB32. The drawings are square
 /// and fill the middle of a cell that is not. A strip has the mask colour where it is transparent
-/// and nowhere else. Null when there is no memory for it.
+/// and nowhere else. Null for a size that no image can have.
 [[nodiscard]] QImage drawPicture(const Picture& picture, const QSize& cell);
 
 /// Gives transparent pixels silver, the colour that an image list makes transparent, and takes
