@@ -29,6 +29,7 @@
 #include <condtree/storedprocs/SpTransitions.h>
 #include <condtree/strmgr/Language.h>
 #include <condtree/strmgr/StringTable.h>
+#include <condtree/values/DateStyle.h>
 #include <condtree/values/LocaleDate.h>
 
 #include <QApplication>
