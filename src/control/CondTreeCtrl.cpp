@@ -6,6 +6,7 @@
 #include <condtree/platform/NativeText.h>
 #include <condtree/presentation/CustomDraw.h>
 #include <condtree/values/CommandCatalogue.h>
+#include <condtree/values/DefaultValue.h>
 #include <condtree/values/OperatorRules.h>
 #include <condtree/values/TypedValue.h>
 
@@ -265,6 +266,16 @@ ComboCmd CondTreeCtrl::meVerifyDefaultOp(ComboCmd op, const CString&)
 bool CondTreeCtrl::mbResetComparisonOperator(ArgType type, ComboCmd op)
 {
     return mustResetOperator(type, op);
+}
+
+void CondTreeCtrl::mvSetDefaultSearchVal(VarTreeCtrlNode& node)
+{
+    const auto style = static_cast<std::uint32_t>(miGetDateFmt());
+    const SYSTEMTIME now = m_parts->services.localTime();
+    if (const auto value = defaultSearchValue(node.mlOperator, now, style)) {
+        node.mValue = *value;
+        m_parts->model.tellTextsChanged();
+    }
 }
 
 void CondTreeCtrl::mvUpdateTypeName(VarTreeCtrlNode& node)

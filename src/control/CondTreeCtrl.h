@@ -121,6 +121,10 @@ protected:
     /// Whether a row of a type must give up an operator for its default one.
     static bool mbResetComparisonOperator(ArgType type, ComboCmd op);
 
+    /// Gives a row whose operator is one on dates the current local time as its value, in the
+    /// control's date style. Other rows keep their value.
+    void mvSetDefaultSearchVal(VarTreeCtrlNode& node);
+
     /// Sets the label of a placeholder or group from its code; other nodes keep theirs.
     void mvUpdateTypeName(VarTreeCtrlNode& node);
     /// The index of a row's picture, by its node code.
