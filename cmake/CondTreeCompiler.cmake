@@ -24,6 +24,12 @@ if(CONDTREE_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
 endif()
+if(CONDTREE_BUILD_FUZZ)
+  # The toolkit's own libraries lack what two of the checks need.
+  add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize=vptr,function
+    -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined -fno-sanitize=vptr,function)
+endif()
 if(CONDTREE_COVERAGE)
   add_compile_options(--coverage)
   add_link_options(--coverage)
