@@ -36,6 +36,7 @@
 #include <QFile>
 
 #include <iostream>
+#include <string>
 #include <vector>
 
 using namespace condtree;
@@ -74,6 +75,16 @@ public:
     }
 };
 
+/// What one style reads, as another one writes it.
+std::string rewrittenDate()
+{
+    double date = 0;
+    CString text;
+    if (ParseDateByStyle(QStringLiteral("Mar 05 2024 02:07 PM"), date, 100))
+        FormatDateByStyle(text, date, 121);
+    return text.toStdString();
+}
+
 /// Thrown in a library and caught here: the type is one and the same.
 bool catchesResultCodes()
 {
@@ -108,6 +119,7 @@ int main(int argc, char** argv)
     std::cout << TSS_internal(106, u"OpName", u"Search", u"?").toStdString() << '\n'
               << ResultCodeText(E_OUTOFMEMORY).toStdString() << '\n'
               << "default operator: " << HostControl::defaultOperator(VarDate) << '\n'
+              << "date: " << rewrittenDate() << '\n'
               << "result codes: " << catchesResultCodes() << '\n'
               << "German: " << loadLanguage(*QCoreApplication::instance(), QStringLiteral("de_AT"))
               << '\n'
