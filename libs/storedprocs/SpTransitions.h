@@ -73,6 +73,12 @@ struct SpCondition {
 struct SpSaveReport {
     /// The texts of an SpConditionRecord.
     enum class Field { None, Name, Extra, Value };
+    /// What E_FAIL does not tell apart, but a user can do something about.
+    enum class Cause {
+        None,
+        DiskFull,  ///< There is no room for the condition.
+        NotWritten ///< The file could not be written: a quota, a device that failed.
+    };
 
     /// S_OK: the condition's new version. SP_E_CHANGED: the version in the database. Else 0.
     std::int64_t version = 0;
@@ -84,10 +90,11 @@ struct SpSaveReport {
     /// -1.
     LONG row = -1;
     Field field = Field::None;
-    /// For SP_E_CHANGED, SP_E_BAD_TEXT and SP_E_TOO_LONG one line of English that names all this,
-    /// rows counted from 1; for E_FAIL one that says when the disk is full or the database could
-    /// not be written. Empty otherwise: the result code's own text says it. Never what the database
-    /// said, which is in the log.
+    /// E_FAIL: why, where that is known. Else None.
+    Cause cause = Cause::None;
+    /// All this in one line that is always English, rows counted from 1: for hosts that have no
+    /// translated texts of their own for it. Empty where the report has nothing beside the result
+    /// code, whose own text says it. Never what the database said, which is in the log.
     CString message;
 };
 

@@ -111,19 +111,29 @@ void checkVersion(Transaction& transaction, LONG transitionId, std::int64_t load
     transaction.fail(SP_E_CHANGED);
 }
 
-/// What a failure of the database leaves to the user, in our words; empty when its result code says
-/// all there is to say.
-CString faultMessage(DatabaseFault::Kind kind)
+struct CauseText {
+    DatabaseFault::Kind fault;
+    SpSaveReport::Cause cause;
+    const char16_t* message;
+};
+
+constexpr CauseText kCauseTexts[] = {
+    {DatabaseFault::Kind::DiskFull, SpSaveReport::Cause::DiskFull,
+     u"The disk is full; your changes were not saved."},
+    {DatabaseFault::Kind::NotWritten, SpSaveReport::Cause::NotWritten,
+     u"The database could not be written; your changes were not saved."},
+};
+
+/// Tells what a failure of the database leaves to the user; nothing when its result code says all
+/// there is to say.
+void reportCause(DatabaseFault::Kind fault, SpSaveReport& report)
 {
-    switch (kind) {
-    case DatabaseFault::Kind::DiskFull:
-        return QStringLiteral("The disk is full; your changes were not saved.");
-    case DatabaseFault::Kind::NotWritten:
-        return QStringLiteral("The database could not be written; your changes were not saved.");
-    case DatabaseFault::Kind::Other:
-        break;
+    for (const CauseText& known : kCauseTexts) {
+        if (known.fault != fault)
+            continue;
+        report.cause = known.cause;
+        report.message = QStringView(known.message).toString();
     }
-    return {};
 }
 
 void replaceRecords(Transaction& transaction, LONG transitionId,
@@ -239,8 +249,8 @@ HRESULT TransitionProcs::save(LONG transitionId, const std::vector<SpConditionRe
     const HRESULT hr = transaction.commit();
     if (SUCCEEDED(hr))
         report.version = loadedVersion + 1;
-    else if (report.message.isEmpty())
-        report.message = faultMessage(transaction.faultKind());
+    else
+        reportCause(transaction.faultKind(), report);
     return hr;
 }
 

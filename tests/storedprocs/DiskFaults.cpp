@@ -1,3 +1,4 @@
+#include "FullDisk.h"
 #include "TempDatabase.h"
 #include "support/QtPrinters.h"
 #include "support/WarningGuard.h"
@@ -7,12 +8,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QFile>
-
-#include <algorithm>
-#include <csignal>
-#include <sys/resource.h>
-
 namespace condtree::test {
 namespace {
 
@@ -21,31 +16,6 @@ namespace {
 const QString kFull = QStringLiteral("The disk is full; your changes were not saved.");
 const QString kNotWritten =
     QStringLiteral("The database could not be written; your changes were not saved.");
-
-/// While it lives, no file of this process may grow beyond a size: writing there fails, as it does
-/// beyond a quota. Binds root, too.
-class SmallFiles {
-public:
-    explicit SmallFiles(qint64 size)
-        : m_signalBefore(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        EXPECT_EQ(getrlimit(RLIMIT_FSIZE, &m_before), 0);
-        const rlimit small{static_cast<rlim_t>(size), m_before.rlim_max};
-        EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
-    }
-    SmallFiles(const SmallFiles&) = delete;
-    SmallFiles& operator=(const SmallFiles&) = delete;
-    ~SmallFiles()
-    {
-        EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &m_before), 0);
-        (void)std::signal(SIGXFSZ, m_signalBefore);
-    }
-
-private:
-    using Handler = void (*)(int);
-    rlimit m_before{};
-    Handler m_signalBefore;
-};
 
 /// A condition that needs more room than the sample's database has.
 std::vector<SpConditionRecord> largeCondition()
@@ -80,6 +50,7 @@ TEST_F(DiskFaults, AWriteThatFailsAnywhereSavesNothingAndSaysSo)
             hr = transitions.mhSaveCondition(1, records, 1, report);
         }
         ASSERT_EQ(hr, E_FAIL) << limit;
+        EXPECT_EQ(report.cause, SpSaveReport::Cause::NotWritten) << limit;
         EXPECT_EQ(report.message, kNotWritten) << limit;
         EXPECT_EQ(report.version, 0);
         ASSERT_EQ(database.everything(), before) << limit;
@@ -88,6 +59,7 @@ TEST_F(DiskFaults, AWriteThatFailsAnywhereSavesNothingAndSaysSo)
     EXPECT_GT(failures, 20);
     SpSaveReport report;
     EXPECT_EQ(transitions.mhSaveCondition(1, records, 1, report), S_OK);
+    EXPECT_EQ(report.cause, SpSaveReport::Cause::None);
     EXPECT_EQ(report.message, QString());
 }
 
@@ -111,28 +83,9 @@ TEST(DiskFaultsBeside, ADatabaseThatCannotBeMadeIsAFailure)
     EXPECT_EQ(SpMakeSampleDatabase(database.url()), E_FAIL);
 }
 
-/// Makes a database as large as a database may be, all of it holes: the next page that it needs is
-/// one too many, and for SQLite that is the same as a full disk. False where the file system has no
-/// files of that size.
-bool fillUp(const TempDatabase& database)
-{
-    constexpr qint64 pageSize = 512;
-    database.run({QStringLiteral("PRAGMA page_size = %1").arg(pageSize), QStringLiteral("VACUUM")});
-    const qint64 pages = database.value(QStringLiteral("PRAGMA max_page_count")).toLongLong();
-    QFile file(database.path());
-    EXPECT_TRUE(file.open(QIODevice::ReadWrite));
-    if (!file.resize(pages * pageSize))
-        return false;
-    EXPECT_TRUE(file.seek(28)); // where the header counts the pages
-    QByteArray count;
-    for (const int shift : {24, 16, 8, 0})
-        count.append(static_cast<char>(pages >> shift & 0xff));
-    return file.write(count) == 4;
-}
-
 TEST_F(DiskFaults, AFullDiskSavesNothingAndIsNamedInOurWords)
 {
-    if (!fillUp(database))
+    if (!fillUp(database.path()))
         GTEST_SKIP() << "not checked: the file system has no files that are large enough";
     const QStringList before = database.everything();
     const ManagerPtr manager = database.connected();
@@ -144,11 +97,13 @@ TEST_F(DiskFaults, AFullDiskSavesNothingAndIsNamedInOurWords)
         EXPECT_EQ(transitions.mhSaveCondition(1, largeCondition(), 1, report), E_FAIL);
         EXPECT_EQ(log.count(), 1) << "nothing is tried behind the failure";
     }
+    EXPECT_EQ(report.cause, SpSaveReport::Cause::DiskFull);
     EXPECT_EQ(report.message, kFull);
     EXPECT_EQ(report.version, 0);
     EXPECT_EQ(report.row, -1);
     EXPECT_EQ(database.everything(), before);
     EXPECT_EQ(transitions.mhSaveCondition(1, {}, 1, report), S_OK) << "less needs no room";
+    EXPECT_EQ(report.cause, SpSaveReport::Cause::None);
     EXPECT_EQ(report.message, QString());
 }
 

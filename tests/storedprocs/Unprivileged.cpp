@@ -11,16 +11,25 @@
 
 namespace condtree::test {
 
+namespace {
+
+/// Calls one of the system's functions with an unprivileged user; a container may know only some of
+/// all users.
+void becomeOneOf(int (*become)(uid_t))
+{
+    for (const uid_t candidate : {uid_t{65534}, uid_t{1}, uid_t{1000}}) {
+        if (become(candidate) == 0)
+            return;
+    }
+}
+
+} // namespace
+
 Unprivileged::Unprivileged()
     : m_before(geteuid())
 {
-    if (m_before != 0)
-        return;
-    // A container may know only some of all users.
-    for (const uid_t candidate : {uid_t{65534}, uid_t{1}, uid_t{1000}}) {
-        if (seteuid(candidate) == 0)
-            return;
-    }
+    if (m_before == 0)
+        becomeOneOf(seteuid);
 }
 
 Unprivileged::~Unprivileged()
@@ -28,6 +37,12 @@ Unprivileged::~Unprivileged()
     if (geteuid() != m_before) {
         EXPECT_EQ(seteuid(m_before), 0);
     }
+}
+
+void becomeUnprivileged()
+{
+    if (geteuid() == 0)
+        becomeOneOf(setuid);
 }
 
 void setMode(const QString& path, mode_t mode)

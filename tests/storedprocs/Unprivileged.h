@@ -19,6 +19,10 @@ private:
     uid_t m_before;
 };
 
+/// Makes a child process a user without privileges for good, where it is root: to be called between
+/// its start and the program that it becomes.
+void becomeUnprivileged();
+
 /// Why the permissions of files below a folder do not bind this process, even unprivileged, or
 /// cannot be tried; empty where they bind. Tests of permissions skip with it.
 [[nodiscard]] QString whyPermissionsDoNotBind(const QString& folder);
