@@ -1,5 +1,7 @@
 #include "ConditionControl.h"
 
+#include <condtree/storedprocs/SpConnect.h>
+
 #include <QApplication>
 
 #include <algorithm>
@@ -91,6 +93,9 @@ ConditionControl::ConditionControl(SpMgr* manager, QWidget* parent, Services ser
                                messages->collected.append(text);
                            return 0;
                        };
+                       if (services.resultTexts == nullptr)
+                           services.resultTexts = std::make_shared<ResultTexts>();
+                       SpAddResultTexts(*services.resultTexts);
                        return std::move(services);
                    }())
     , m_messages(std::move(messages))

@@ -1,9 +1,9 @@
 #include "Database.h"
 
 #include "Messages.h"
+#include "ResultMessage.h"
 #include "SaveRefusal.h"
 
-#include <condtree/refdata/ErrorText.h>
 #include <condtree/storedprocs/SpConnect.h>
 #include <condtree/storedprocs/SpSample.h>
 
@@ -49,7 +49,7 @@ QString fileOf(const QString& url)
 
 Failure failureOf(const QString& what, HRESULT code)
 {
-    return {atPlace(what, ResultCodeText(code).trimmed())};
+    return {atPlace(what, resultMessage(code))};
 }
 
 Failure cannotOpen(const QString& url, HRESULT code)
@@ -155,8 +155,7 @@ Outcome<std::int64_t> Database::save(const SpTransition& transition,
         return report.version;
     const QString what = QCoreApplication::translate("Database", "cannot save the condition of %1")
                              .arg(transitionTitle(transition));
-    const QString refusal = saveRefusal(result, report);
-    return refusal.isEmpty() ? failureOf(what, result) : Failure{atPlace(what, refusal)};
+    return Failure{atPlace(what, saveRefusal(result, report))};
 }
 
 QString transitionTitle(const SpTransition& transition)

@@ -1,15 +1,17 @@
 #include "SaveRefusal.h"
 
+#include "ResultMessage.h"
+
 #include <QCoreApplication>
 #include <QLocale>
 
-#include <algorithm>
 #include <array>
 
 namespace condtree::workbench {
 
 namespace {
 
+using Cause = SpSaveReport::Cause;
 using Field = SpSaveReport::Field;
 
 struct RefusedText {
@@ -41,13 +43,24 @@ constexpr std::array kRefusedTexts{
 };
 static_assert(kSpLargestText == 16 * 1024 * 1024);
 
+struct CauseText {
+    Cause cause;
+    const char* text;
+};
+
+constexpr std::array kCauseTexts{
+    CauseText{Cause::DiskFull,
+              QT_TRANSLATE_NOOP("SaveRefusal", "The disk is full; your changes were not saved.")},
+    CauseText{Cause::NotWritten,
+              QT_TRANSLATE_NOOP("SaveRefusal", "The database could not be written; your changes "
+                                               "were not saved.")},
+};
+
 QString changedText(const SpSaveReport& report)
 {
     const QString who = report.changedBy.str().simplified();
     if (who.isEmpty())
-        return QCoreApplication::translate(
-            "SaveRefusal", "The condition was saved by somebody else after it was loaded; your "
-                           "changes were not saved.");
+        return {};
     if (!report.changedAt.isValid())
         return QCoreApplication::translate("SaveRefusal",
                                            "The condition was saved by %1 after it was loaded; "
@@ -60,19 +73,44 @@ QString changedText(const SpSaveReport& report)
         .arg(who, QLocale().toString(report.changedAt.toLocalTime(), QLocale::ShortFormat));
 }
 
+QString refusedText(HRESULT result, const SpSaveReport& report)
+{
+    for (const RefusedText& known : kRefusedTexts) {
+        if (known.result == result && known.field == report.field)
+            return QCoreApplication::translate("SaveRefusal", known.text).arg(report.row + 1);
+    }
+    return {};
+}
+
+QString causeText(const SpSaveReport& report)
+{
+    for (const CauseText& known : kCauseTexts) {
+        if (known.cause == report.cause)
+            return QCoreApplication::translate("SaveRefusal", known.text);
+    }
+    return {};
+}
+
+/// What the report tells beside its result; empty where it tells nothing.
+QString reportedText(HRESULT result, const SpSaveReport& report)
+{
+    switch (result) {
+    case SP_E_CHANGED:
+        return changedText(report);
+    case SP_E_BAD_TEXT:
+    case SP_E_TOO_LONG:
+        return refusedText(result, report);
+    default:
+        return causeText(report);
+    }
+}
+
 } // namespace
 
 QString saveRefusal(HRESULT result, const SpSaveReport& report)
 {
-    if (result == SP_E_CHANGED)
-        return changedText(report);
-    const auto* const found =
-        std::find_if(kRefusedTexts.begin(), kRefusedTexts.end(), [&](const RefusedText& candidate) {
-            return candidate.result == result && candidate.field == report.field;
-        });
-    if (found == kRefusedTexts.end())
-        return report.message;
-    return QCoreApplication::translate("SaveRefusal", found->text).arg(report.row + 1);
+    const QString text = reportedText(result, report);
+    return text.isEmpty() ? resultMessage(result) : text;
 }
 
 } // namespace condtree::workbench

@@ -6,8 +6,9 @@
 
 namespace condtree::workbench {
 
-/// Why the database refused a condition, in the user's language: who saved it in between, or which
-/// row and field it cannot hold, rows counted from 1. Empty for results whose own text says it all.
+/// Why a condition was not saved, in the user's language: who saved it in between, which row and
+/// field the database cannot hold, rows counted from 1, or what hindered it from writing; the
+/// result's own message where the report does not tell.
 [[nodiscard]] QString saveRefusal(HRESULT result, const SpSaveReport& report);
 
 } // namespace condtree::workbench

@@ -1,4 +1,6 @@
 #include "Program.h"
+#include "ReasonTexts.h"
+#include "TempDatabase.h"
 
 #include <QFileInfo>
 
@@ -84,19 +86,64 @@ TEST_F(CommandLineErrors, WhatIsNotThereIsNamed)
         expectError(run(row.arguments), row.line, row.name);
 }
 
-TEST_F(CommandLineErrors, ADatabaseThatCannotBeOpenedIsNamed)
+TEST_F(CommandLineErrors, ADatabaseThatCannotBeOpenedIsNamedWithTheReason)
 {
-    const QString notOurs = SpSqliteUrl(fileOf("text.db", QByteArray(5000, 'x')));
-    for (const QString& url : {notOurs, text("sqlite:///tmp"), text("nonsense")}) {
-        const Finished failed = runPlain({text("--db"), url, text("--list")});
-        EXPECT_TRUE(failed.errors.startsWith("condtree-workbench: cannot open the database "
-                                             + url.toUtf8() + ": "))
-            << failed.errors.toStdString();
-        EXPECT_EQ(failed.errors.count('\n'), 1) << failed.errors.toStdString();
-        EXPECT_GT(failed.errors.size(), url.size() + 60) << "no reason is given";
-        EXPECT_EQ(failed.exitCode, 2);
-        EXPECT_EQ(failed.output.toStdString(), "");
-    }
+    struct Row {
+        QString url;
+        const char* reason;
+    };
+    const Row rows[] = {
+        {SpSqliteUrl(fileOf("text.db", QByteArray(5000, 'x'))), kCannotOpen},
+        {text("sqlite:///tmp"), kCannotOpen},
+        {text("postgresql://host/db"), "The called method is not implemented."},
+        {text("nonsense"), "An invalid argument was given to the method."},
+    };
+    for (const Row& row : rows)
+        expectError(runPlain({text("--db"), row.url, text("--list")}),
+                    text("cannot open the database %1: %2").arg(row.url, text(row.reason)),
+                    row.url.toStdString());
+}
+
+TEST_F(CommandLineErrors, ADatabaseThatIsLockedIsSaidToBeUntilItIsNot)
+{
+    const QString url = m_database.url() + text("?busy_timeout=0");
+    const QStringList list{text("--db"), url, text("--list")};
+    RawConnection other(m_database.file("sample.db"));
+    ASSERT_TRUE(other.run(text("BEGIN EXCLUSIVE")));
+    expectError(runPlain(list), text("cannot open the database %1: %2").arg(url, text(kLocked)),
+                "locked");
+    ASSERT_TRUE(other.run(text("ROLLBACK")));
+    outputOf(runPlain(list));
+}
+
+TEST_F(CommandLineErrors, ADatabaseThatSomebodyWritesIsReadButNotSavedTo)
+{
+    const QString url = m_database.url() + text("?busy_timeout=0");
+    const QString file = m_database.file("mine.json");
+    const QStringList at{text("--db"), url, text("--transition"), text(kTransition)};
+    RawConnection other(m_database.file("sample.db"));
+    ASSERT_TRUE(other.run(text("BEGIN IMMEDIATE")));
+    outputOf(runPlain(at + QStringList{text("--export"), file}));
+    expectError(
+        runPlain(at + QStringList{text("--import"), file}),
+        text("%1: cannot save the condition of %2: %3").arg(file, text(kTransition), text(kLocked)),
+        "locked");
+    ASSERT_TRUE(other.run(text("ROLLBACK")));
+    outputOf(runPlain(at + QStringList{text("--import"), file}));
+}
+
+TEST_F(CommandLineErrors, ADatabaseThatMayNotBeReadNeedsPermission)
+{
+    if (const QString why = whyPermissionsDoNotBindIt(); !why.isEmpty())
+        GTEST_SKIP() << "not checked: " << why.toStdString();
+    const QStringList list{text("--db"), m_database.url(), text("--list")};
+    const auto runAsNobody = [&] { return runPlain(list, {}, {}, {}, becomeUnprivileged); };
+    setMode(m_database.file("sample.db"), 0000);
+    expectError(runAsNobody(),
+                text("cannot open the database %1: %2").arg(m_database.url(), text(kPermission)),
+                "mode 0");
+    setMode(m_database.file("sample.db"), 0644);
+    outputOf(runAsNobody());
 }
 
 TEST_F(CommandLineErrors, ADatabaseThatIsMissingIsNotMade)

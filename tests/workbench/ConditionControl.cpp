@@ -61,6 +61,20 @@ TEST_F(ConditionControls, ReadingTheRecordsLeavesTheShownValuesAlone)
     EXPECT_EQ(row->mValue, QStringLiteral("me"));
 }
 
+TEST_F(ConditionControls, ItKnowsTheMessagesOfTheDataAccessLibrary)
+{
+    Services bare = services();
+    bare.resultTexts.reset();
+    for (const Services& ports : {services(), bare}) {
+        ConditionControl control(m_library.get(), nullptr, ports);
+        m_library->getUsers.results = {SP_E_CHANGED};
+        EXPECT_EQ(control.setRecords({user("7")}),
+                  QStringList{QStringLiteral(
+                      "The condition was saved by somebody else after it was loaded; your changes "
+                      "were not saved. Load the condition again and repeat your changes.")});
+    }
+}
+
 TEST_F(ConditionControls, EveryGroupIsOpenAfterLoading)
 {
     ConditionControl control(m_library.get(), nullptr, services());

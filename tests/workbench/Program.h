@@ -2,11 +2,16 @@
 
 #include "SampleDatabase.h"
 
+#include "Unprivileged.h"
+
 #include <QFile>
+#include <QFileInfo>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QSqlDatabase>
 #include <QSqlQuery>
+
+#include <functional>
 
 namespace condtree::test {
 
@@ -20,10 +25,12 @@ struct Finished {
 /// Runs the real program over a sample database of the test's own, without a display.
 class Program : public testing::Test {
 protected:
-    /// Runs it with these arguments and nothing else.
+    /// Runs it with these arguments and nothing else. inChild is called in the new process before
+    /// it becomes the program.
     Finished runPlain(const QStringList& arguments, const QByteArray& input = {},
                       const QList<std::pair<QString, QString>>& environment = {},
-                      const QString& outputFile = {}) const
+                      const QString& outputFile = {},
+                      const std::function<void()>& inChild = {}) const
     {
         QProcess process;
         QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
@@ -31,6 +38,8 @@ protected:
                                  "QT_LOGGING_RULES", "QT_SCALE_FACTOR", "LANGUAGE"})
             variables.remove(QLatin1String(name));
         variables.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+        // Counters of coverage, which cannot be written under every condition, and would say so.
+        variables.insert(QStringLiteral("GCOV_ERROR_FILE"), QStringLiteral("/dev/null"));
         variables.insert(QStringLiteral("HOME"), m_database.file("home"));
         variables.insert(QStringLiteral("XDG_DATA_HOME"), m_database.file("data"));
         variables.insert(QStringLiteral("XDG_DATA_DIRS"), m_database.file("data-dirs"));
@@ -40,6 +49,7 @@ protected:
         for (const auto& [name, value] : environment)
             variables.insert(name, value);
         process.setProcessEnvironment(variables);
+        process.setChildProcessModifier(inChild);
         if (!outputFile.isEmpty())
             process.setStandardOutputFile(outputFile);
         process.start(QStringLiteral(CONDTREE_WORKBENCH), arguments);
@@ -65,6 +75,17 @@ protected:
         return run(QStringList{QStringLiteral("--transition"), QString::fromUtf8(transition)}
                        + arguments,
                    input);
+    }
+
+    /// Why a run of the program cannot be kept from a file; empty where it can. Lets others into
+    /// the folder of the database.
+    [[nodiscard]] QString whyPermissionsDoNotBindIt() const
+    {
+        QString why = whyPermissionsDoNotBind(QFileInfo(m_database.file("x")).path());
+        const Unprivileged nobody;
+        if (why.isEmpty() && !QFileInfo(QStringLiteral(CONDTREE_WORKBENCH)).isExecutable())
+            why = QStringLiteral("an ordinary user cannot reach the program");
+        return why;
     }
 
     static std::string outputOf(const Finished& run)

@@ -124,6 +124,31 @@ TEST_F(Translations, AnotherLanguageTakesThePlaceOfTheFirst)
     EXPECT_EQ(QLocale().language(), QLocale::Danish);
 }
 
+TEST_F(Translations, WhatAReportDoesNotTellIsTheResultsOwnMessage)
+{
+    useLanguage(*qApp, QStringLiteral("en"));
+    EXPECT_EQ(saveRefusal(SP_E_CHANGED, {}),
+              QStringLiteral(
+                  "The condition was saved by somebody else after it was loaded; your changes were "
+                  "not saved. Load the condition again and repeat your changes."));
+    EXPECT_EQ(saveRefusal(SP_E_BAD_TEXT, {}),
+              QStringLiteral("A text holds a character that the database cannot hold; your changes "
+                             "were not saved. Remove the character and save again."));
+    EXPECT_EQ(saveRefusal(SP_E_TOO_LONG, {}),
+              QStringLiteral("A text is larger than 16 MiB, which the database cannot hold; your "
+                             "changes were not saved. Shorten the text and save again."));
+    EXPECT_EQ(saveRefusal(E_FAIL, {}), QStringLiteral("An unspecified error occurred."));
+    useLanguage(*qApp, QStringLiteral("de"));
+    EXPECT_EQ(saveRefusal(SP_E_CHANGED, {}),
+              QStringLiteral("Die Bedingung wurde von jemand anderem gespeichert, nachdem sie "
+                             "geladen worden war; Ihre Änderungen wurden nicht gespeichert. Laden "
+                             "Sie die Bedingung neu, und wiederholen Sie Ihre Änderungen."));
+    SpSaveReport report;
+    report.message = QStringLiteral("English");
+    EXPECT_EQ(saveRefusal(E_FAIL, report),
+              QStringLiteral("Es ist ein unbekannter Fehler aufgetreten."));
+}
+
 TEST_F(Translations, RefusedSavesAreTold)
 {
     SpSaveReport report;

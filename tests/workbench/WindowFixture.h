@@ -142,13 +142,18 @@ protected:
 
     void SetUp() override
     {
-        m_database = m_sample.open();
+        auto opened = workbench::Database::open(url(), {});
+        ASSERT_TRUE(opened.hasValue());
+        m_database = std::move(opened).value();
         const auto transitions = m_database->transitions();
         m_window = std::make_unique<MainWindow>(*m_database, transitions.value(), realServices());
         m_window->show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(m_window.get()));
         click("Document Approval/Submit for Review");
     }
+
+    /// What the window's database is opened by.
+    [[nodiscard]] virtual QString url() const { return m_sample.url(); }
 
     void TearDown() override { EXPECT_EQ(m_deadline.rejected(), 0) << "a dialog stayed open"; }
 

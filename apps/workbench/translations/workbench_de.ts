@@ -468,10 +468,6 @@ Display benötigt.</translation>
         <translation>Zeile %1: Der Wert ist größer als 16 MiB; mehr kann die Datenbank nicht speichern.</translation>
     </message>
     <message>
-        <source>The condition was saved by somebody else after it was loaded; your changes were not saved.</source>
-        <translation>Jemand anders hat die Bedingung gespeichert, nachdem Sie sie geladen hatten; Ihre Änderungen wurden nicht gespeichert.</translation>
-    </message>
-    <message>
         <source>The condition was saved by %1 after it was loaded; your changes were not saved.</source>
         <translation>%1 hat die Bedingung gespeichert, nachdem Sie sie geladen hatten; Ihre Änderungen wurden nicht gespeichert.</translation>
     </message>
@@ -479,6 +475,14 @@ Display benötigt.</translation>
         <source>The condition was saved by %1 (%2) after it was loaded; your changes were not saved.</source>
         <extracomment>%1 is a login name, %2 a date and time</extracomment>
         <translation>%1 hat die Bedingung gespeichert (%2), nachdem Sie sie geladen hatten; Ihre Änderungen wurden nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>The disk is full; your changes were not saved.</source>
+        <translation>Der Datenträger ist voll; Ihre Änderungen wurden nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>The database could not be written; your changes were not saved.</source>
+        <translation>In die Datenbank konnte nicht geschrieben werden; Ihre Änderungen wurden nicht gespeichert.</translation>
     </message>
 </context>
 <context>

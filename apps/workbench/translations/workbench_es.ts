@@ -445,31 +445,27 @@ ni se necesita una pantalla.</translation>
     <name>SaveRefusal</name>
     <message>
         <source>Row %1: the name holds a character that the database cannot hold.</source>
-        <translation>Fila %1: el nombre contiene un carácter que la base de datos no admite.</translation>
+        <translation>Fila %1: el nombre contiene un carácter que la base de datos no puede almacenar.</translation>
     </message>
     <message>
         <source>Row %1: the remark holds a character that the database cannot hold.</source>
-        <translation>Fila %1: la observación contiene un carácter que la base de datos no admite.</translation>
+        <translation>Fila %1: la observación contiene un carácter que la base de datos no puede almacenar.</translation>
     </message>
     <message>
         <source>Row %1: the value holds a character that the database cannot hold.</source>
-        <translation>Fila %1: el valor contiene un carácter que la base de datos no admite.</translation>
+        <translation>Fila %1: el valor contiene un carácter que la base de datos no puede almacenar.</translation>
     </message>
     <message>
         <source>Row %1: the name is larger than 16 MiB, which the database cannot hold.</source>
-        <translation>Fila %1: el nombre ocupa más de 16 MiB, tamaño que la base de datos no admite.</translation>
+        <translation>Fila %1: el nombre ocupa más de 16 MiB, tamaño que la base de datos no puede almacenar.</translation>
     </message>
     <message>
         <source>Row %1: the remark is larger than 16 MiB, which the database cannot hold.</source>
-        <translation>Fila %1: la observación ocupa más de 16 MiB, tamaño que la base de datos no admite.</translation>
+        <translation>Fila %1: la observación ocupa más de 16 MiB, tamaño que la base de datos no puede almacenar.</translation>
     </message>
     <message>
         <source>Row %1: the value is larger than 16 MiB, which the database cannot hold.</source>
-        <translation>Fila %1: el valor ocupa más de 16 MiB, tamaño que la base de datos no admite.</translation>
-    </message>
-    <message>
-        <source>The condition was saved by somebody else after it was loaded; your changes were not saved.</source>
-        <translation>Otra persona guardó la condición después de que usted la cargara; los cambios que usted hizo no se han guardado.</translation>
+        <translation>Fila %1: el valor ocupa más de 16 MiB, tamaño que la base de datos no puede almacenar.</translation>
     </message>
     <message>
         <source>The condition was saved by %1 after it was loaded; your changes were not saved.</source>
@@ -479,6 +475,14 @@ ni se necesita una pantalla.</translation>
         <source>The condition was saved by %1 (%2) after it was loaded; your changes were not saved.</source>
         <extracomment>%1 is a login name, %2 a date and time</extracomment>
         <translation>%1 guardó la condición (%2) después de que usted la cargara; los cambios que usted hizo no se han guardado.</translation>
+    </message>
+    <message>
+        <source>The disk is full; your changes were not saved.</source>
+        <translation>El disco está lleno; los cambios que usted hizo no se han guardado.</translation>
+    </message>
+    <message>
+        <source>The database could not be written; your changes were not saved.</source>
+        <translation>No se pudo escribir en la base de datos; los cambios que usted hizo no se han guardado.</translation>
     </message>
 </context>
 <context>

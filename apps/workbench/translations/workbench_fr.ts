@@ -468,10 +468,6 @@ affichage n’est nécessaire.</translation>
         <translation>Ligne %1&#xa0;: la valeur dépasse 16&#xa0;Mio, la taille maximale que la base de données peut stocker.</translation>
     </message>
     <message>
-        <source>The condition was saved by somebody else after it was loaded; your changes were not saved.</source>
-        <translation>La condition a été enregistrée par quelqu’un d’autre après son chargement&#xa0;; vos modifications n’ont pas été enregistrées.</translation>
-    </message>
-    <message>
         <source>The condition was saved by %1 after it was loaded; your changes were not saved.</source>
         <translation>La condition a été enregistrée par %1 après son chargement&#xa0;; vos modifications n’ont pas été enregistrées.</translation>
     </message>
@@ -479,6 +475,14 @@ affichage n’est nécessaire.</translation>
         <source>The condition was saved by %1 (%2) after it was loaded; your changes were not saved.</source>
         <extracomment>%1 is a login name, %2 a date and time</extracomment>
         <translation>La condition a été enregistrée par %1 (%2) après son chargement&#xa0;; vos modifications n’ont pas été enregistrées.</translation>
+    </message>
+    <message>
+        <source>The disk is full; your changes were not saved.</source>
+        <translation>Le disque est plein&#xa0;; vos modifications n’ont pas été enregistrées.</translation>
+    </message>
+    <message>
+        <source>The database could not be written; your changes were not saved.</source>
+        <translation>Impossible d’écrire dans la base de données&#xa0;; vos modifications n’ont pas été enregistrées.</translation>
     </message>
 </context>
 <context>

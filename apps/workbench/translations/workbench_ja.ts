@@ -467,10 +467,6 @@ is needed.</source>
         <translation>行 %1: 値が 16 MiB を超えているため、データベースに格納できません。</translation>
     </message>
     <message>
-        <source>The condition was saved by somebody else after it was loaded; your changes were not saved.</source>
-        <translation>この条件は、読み込み後に別のユーザーによって保存されました。こちらで行った変更は保存されていません。</translation>
-    </message>
-    <message>
         <source>The condition was saved by %1 after it was loaded; your changes were not saved.</source>
         <translation>この条件は、読み込み後に %1 によって保存されました。こちらで行った変更は保存されていません。</translation>
     </message>
@@ -478,6 +474,14 @@ is needed.</source>
         <source>The condition was saved by %1 (%2) after it was loaded; your changes were not saved.</source>
         <extracomment>%1 is a login name, %2 a date and time</extracomment>
         <translation>この条件は、読み込み後に %1 によって保存されました (%2)。こちらで行った変更は保存されていません。</translation>
+    </message>
+    <message>
+        <source>The disk is full; your changes were not saved.</source>
+        <translation>ディスクの空き容量がありません。変更は保存されていません。</translation>
+    </message>
+    <message>
+        <source>The database could not be written; your changes were not saved.</source>
+        <translation>データベースに書き込めませんでした。変更は保存されていません。</translation>
     </message>
 </context>
 <context>

@@ -468,10 +468,6 @@ display behövs.</translation>
         <translation>Rad %1: värdet är större än 16 MiB, vilket är mer än databasen kan lagra.</translation>
     </message>
     <message>
-        <source>The condition was saved by somebody else after it was loaded; your changes were not saved.</source>
-        <translation>Villkoret sparades av någon annan efter att det hade lästs in; dina ändringar har inte sparats.</translation>
-    </message>
-    <message>
         <source>The condition was saved by %1 after it was loaded; your changes were not saved.</source>
         <translation>Villkoret sparades av %1 efter att det hade lästs in; dina ändringar har inte sparats.</translation>
     </message>
@@ -479,6 +475,14 @@ display behövs.</translation>
         <source>The condition was saved by %1 (%2) after it was loaded; your changes were not saved.</source>
         <extracomment>%1 is a login name, %2 a date and time</extracomment>
         <translation>Villkoret sparades av %1 (%2) efter att det hade lästs in; dina ändringar har inte sparats.</translation>
+    </message>
+    <message>
+        <source>The disk is full; your changes were not saved.</source>
+        <translation>Disken är full; dina ändringar har inte sparats.</translation>
+    </message>
+    <message>
+        <source>The database could not be written; your changes were not saved.</source>
+        <translation>Det gick inte att skriva till databasen; dina ändringar har inte sparats.</translation>
     </message>
 </context>
 <context>
