@@ -124,6 +124,45 @@ TEST_F(Translations, AnotherLanguageTakesThePlaceOfTheFirst)
     EXPECT_EQ(QLocale().language(), QLocale::Danish);
 }
 
+TEST_F(Translations, ANameIsUnderstoodAsUsersAndEnvironmentsWriteIt)
+{
+    struct Row {
+        const char* name;
+        const char* group; ///< of a condition
+        const char* own;
+        const char* toolkits;
+        const char* locale;
+    };
+    const auto german = [](const char* name, const char* locale) {
+        return Row{name, "Oder", "leer", "Suchen in:", locale};
+    };
+    const auto english = [](const char* name, const char* locale) {
+        return Row{name, "Or", "empty", "Look in:", locale};
+    };
+    for (const Row& row :
+         {german("de", "de_DE"),           german("DE", "de_DE"),
+          german("De", "de_DE"),           german("de_AT", "de_AT"),
+          german("de-AT", "de_AT"),        german("DE_at", "de_AT"),
+          german("de_DE.UTF-8", "de_DE"),  german("de_CH.utf8", "de_CH"),
+          german("de_DE@euro", "de_DE"),   german("de_AT.ISO-8859-15@euro", "de_AT"),
+          german("de@euro", "de_DE"),      german("DE-LATN-at", "de_AT"),
+          english("en", "en_US"),          english("EN", "en_US"),
+          english("en_gb.UTF-8", "en_GB"), english("C", "en_US"),
+          english("c", "en_US"),           english("C.UTF-8", "en_US"),
+          english("POSIX", "en_US"),       english("posix", "en_US")}) {
+        useLanguage(*qApp, QString::fromUtf8(row.name));
+        EXPECT_EQ(realServices().string(39, u"TS", u"Search", u"Or"), QString::fromUtf8(row.group))
+            << row.name;
+        EXPECT_EQ(QCoreApplication::translate("condtree::workbench::TransitionList", "empty"),
+                  QString::fromUtf8(row.own))
+            << row.name;
+        EXPECT_EQ(QCoreApplication::translate("QFileDialog", "Look in:"),
+                  QString::fromUtf8(row.toolkits))
+            << row.name;
+        EXPECT_EQ(QLocale().name(), QString::fromUtf8(row.locale)) << row.name;
+    }
+}
+
 TEST_F(Translations, WhatAReportDoesNotTellIsTheResultsOwnMessage)
 {
     useLanguage(*qApp, QStringLiteral("en"));

@@ -56,8 +56,15 @@ TEST_F(Window, ItsFirstSizeShowsEveryOperatorOfEveryLanguageWhole)
     const int row = control.viewport()->width() - control.visualRect(nested).left();
     const int icon = realServices().systemMetric(SM_CXSMICON);
     const int room = control.miGetColumnSize(1, row) - icon - 6; // the margins of icon and text
-    for (const char* language : {"", "de", "es", "fr", "ja", "sv"}) {
-        useLanguage(*qApp, QLatin1String(language));
+    struct Row {
+        const char* language;
+        const char* equal;
+    };
+    for (const Row& named :
+         {Row{"en", "String Equal To"}, Row{"de", "Text ist gleich"}, Row{"es", "Texto igual a"},
+          Row{"fr", "Texte égal à"}, Row{"ja", "文字列が等しい"}, Row{"sv", "Text lika med"}}) {
+        useLanguage(*qApp, QLatin1String(named.language));
+        ASSERT_EQ(TSS_internal(100, u"OpName", u"Search", u"?"), QString::fromUtf8(named.equal));
         for (LONG op = 100; op < 140; ++op) {
             const QString name = TSS_internal(op, u"OpName", u"Search", u"?");
             EXPECT_LE(control.fontMetrics().horizontalAdvance(name), room) << name.toStdString();
