@@ -1,7 +1,9 @@
 // What a user of the control sees of a database that fails: the message of the result code, once,
-// and a control that works again when the cause is gone. Everything here is real but the box.
+// and a control that works again when the cause is gone. Everything here is real; the box is read
+// by the first test, and is a list of messages in the others.
 #include "TempDatabase.h"
 #include "Unprivileged.h"
+#include "control/MessageBoxScript.h"
 #include "support/QtPrinters.h"
 #include "support/WarningGuard.h"
 
@@ -89,16 +91,23 @@ class ThroughTheControl : public testing::Test {
 protected:
     void SetUp() override { ASSERT_EQ(SpMakeSampleDatabase(database.url()), S_OK); }
 
-    Services services()
+    /// The real ones, but for settings of the test's own.
+    Services realBoxes()
     {
         Services result = realServices();
+        result.registry = std::make_shared<RegFileStore>(RegFilePaths{
+            folder.filePath(QStringLiteral("user")), folder.filePath(QStringLiteral("machine"))});
+        return result;
+    }
+
+    Services services()
+    {
+        Services result = realBoxes();
         result.messageBox = [this](QWidget*, const CString& text, unsigned type) {
             EXPECT_EQ(type, MB_OK);
             messages.append(text);
             return 1;
         };
-        result.registry = std::make_shared<RegFileStore>(RegFilePaths{
-            folder.filePath(QStringLiteral("user")), folder.filePath(QStringLiteral("machine"))});
         return result;
     }
 
@@ -174,6 +183,46 @@ protected:
     QTemporaryDir folder;
     QStringList messages;
 };
+
+TEST_F(ThroughTheControl, ALockedDatabaseIsSaidToBeLockedInOneBoxThatTheUserCloses)
+{
+    HostCtrl control(realBoxes());
+    control.connectTo(database.url());
+    control.show();
+    control.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&control));
+    RawConnection other(database.path());
+    ASSERT_TRUE(other.run(QStringLiteral("BEGIN EXCLUSIVE")));
+    for (const Loader& loader : kLoaders) {
+        SCOPED_TRACE(loader.name);
+        const ExpectWarning log(QStringLiteral("failed"));
+        QTimer watch;
+        QObject::connect(&watch, &QTimer::timeout, &watch, [] {
+            if (QWidget* another = QApplication::activeModalWidget()) {
+                ADD_FAILURE() << "one box is enough";
+                another->close();
+            }
+        });
+        duringMessage([&] { EXPECT_FALSE((control.*loader.load)()); },
+                      [&](QMessageBox& box) {
+                          EXPECT_EQ(openBoxes().size(), 1U);
+                          EXPECT_EQ(textOf(box).text(), kLockedText);
+                          QTest::mouseClick(box.button(QMessageBox::Ok), Qt::LeftButton);
+                          watch.start(0);
+                      });
+        EXPECT_EQ(openBoxes().size(), 0U);
+    }
+    ASSERT_TRUE(other.run(QStringLiteral("ROLLBACK")));
+    control.activateWindow(); // as a desktop does when a box goes
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&control));
+    EXPECT_TRUE(control.isEnabled());
+    for (const Loader& loader : kLoaders)
+        EXPECT_TRUE((control.*loader.load)()) << loader.name;
+    expectRowsToLoadAndSave(control);
+    const QModelIndex first = control.model()->index(0, 0);
+    QTest::mouseClick(control.viewport(), Qt::LeftButton, {}, control.visualRect(first).center());
+    EXPECT_EQ(control.currentIndex(), first) << "a click reaches the rows";
+}
 
 TEST_F(ThroughTheControl, ALockedDatabaseIsSaidToBeLocked)
 {
