@@ -8,20 +8,10 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <tuple>
 
 namespace condtree {
 
 namespace {
-
-struct CatalogueText {
-    LONG id;
-    std::u16string_view key;
-    std::u16string_view section;
-    std::u16string_view english;
-
-    [[nodiscard]] constexpr auto name() const { return std::tuple(id, key, section); }
-};
 
 constexpr auto kTexts = [] {
     auto texts = std::to_array<CatalogueText>({
@@ -33,6 +23,9 @@ constexpr auto kTexts = [] {
 
 static_assert(std::ranges::adjacent_find(kTexts, {}, &CatalogueText::name) == kTexts.end());
 static_assert(std::ranges::none_of(kTexts, &std::u16string_view::empty, &CatalogueText::english));
+
+/// Rows ask for operators with "?" in the default's place.
+constexpr std::u16string_view kOperatorKey = u"OpName";
 
 /// A short text in UTF-8, null-terminated, without a heap allocation where it is ASCII.
 class NarrowText {
@@ -56,6 +49,13 @@ public:
         m_bytes.append(std::begin(digits), end - std::begin(digits));
     }
 
+    void append(const TextName& name)
+    {
+        append(name.key);
+        append(u" ");
+        append(name.id);
+    }
+
     /// Valid until the next append.
     [[nodiscard]] const char* terminated()
     {
@@ -67,18 +67,15 @@ private:
     QVarLengthArray<char, 256> m_bytes;
 };
 
-} // namespace
-
+/// The product's English text of a name; empty where it has none.
 std::u16string_view englishText(const TextName& name)
 {
-    const std::tuple wanted(name.id, name.key, name.section);
-    const auto* const found = std::ranges::lower_bound(kTexts, wanted, {}, &CatalogueText::name);
-    return found != kTexts.end() && found->name() == wanted ? found->english
-                                                            : std::u16string_view();
+    const auto* const found = std::ranges::lower_bound(kTexts, name, {}, &CatalogueText::name);
+    return found != kTexts.end() && found->name == name ? found->english : std::u16string_view();
 }
 
-CString translation(const TextName& name, std::u16string_view english,
-                    const QTranslator* translator)
+/// What an English text is translated to; empty where it is not, or to itself.
+CString translated(const TextName& name, std::u16string_view english, const QTranslator* translator)
 {
     // An empty source is a catalogue's own header, and without an application nothing is installed.
     if (english.empty() || (translator == nullptr && QCoreApplication::instance() == nullptr))
@@ -88,14 +85,56 @@ CString translation(const TextName& name, std::u16string_view english,
     NarrowText source;
     source.append(english);
     NarrowText disambiguation;
-    disambiguation.append(name.key);
-    disambiguation.append(u" ");
-    disambiguation.append(name.id);
+    disambiguation.append(name);
     if (translator != nullptr)
         return translator->translate(context.terminated(), source.terminated(),
                                      disambiguation.terminated());
-    return QCoreApplication::translate(context.terminated(), source.terminated(),
-                                       disambiguation.terminated());
+    CString text = QCoreApplication::translate(context.terminated(), source.terminated(),
+                                               disambiguation.terminated());
+    return QStringView(text) == QStringView(english.data(), qsizetype(english.size())) ? CString()
+                                                                                       : text;
+}
+
+CString translatedByEither(const TextName& name, std::u16string_view known,
+                           std::u16string_view english, const QTranslator* translator)
+{
+    CString text = translated(name, known, translator);
+    return text.isEmpty() && english != known ? translated(name, english, translator) : text;
+}
+
+} // namespace
+
+std::span<const CatalogueText> catalogueTexts()
+{
+    return kTexts;
+}
+
+QByteArray disambiguationOf(const TextName& name)
+{
+    NarrowText text;
+    text.append(name);
+    return {text.terminated()};
+}
+
+std::optional<CString> tableText(const TextName& name, std::u16string_view english,
+                                 const QTranslator* translator)
+{
+    const std::u16string_view known = englishText(name);
+    CString text = translatedByEither(name, known, english, translator);
+    if (text.isEmpty() && known.empty())
+        return std::nullopt;
+    return text.isEmpty() ? owned(known) : text;
+}
+
+CString localisedText(const TextName& name, std::u16string_view english,
+                      const QTranslator* translator)
+{
+    const std::u16string_view known = englishText(name);
+    CString text = translatedByEither(name, known, english, translator);
+    if (!text.isEmpty())
+        return text;
+    const bool isKnownBetter = english.empty() || name.key == kOperatorKey;
+    return owned(isKnownBetter && !known.empty() ? known : english);
 }
 
 } // namespace condtree

@@ -2,6 +2,8 @@
 
 #include <condtree/platform/WinTypes.h>
 
+#include <optional>
+#include <span>
 #include <string_view>
 
 class QTranslator;
@@ -13,15 +15,33 @@ struct TextName {
     LONG id;
     std::u16string_view key;
     std::u16string_view section;
+
+    [[nodiscard]] constexpr auto operator<=>(const TextName&) const = default;
 };
 
-/// The English text of a name; empty where the catalogue has none.
-[[nodiscard]] std::u16string_view englishText(const TextName& name);
+/// A text of the product.
+struct CatalogueText {
+    TextName name;
+    std::u16string_view english;
+};
 
-/// The translation of a text by a translator, or by those of the application when it is null. Empty
-/// when there is none. english is the text under which the translations hold it.
-[[nodiscard]] CString translation(const TextName& name, std::u16string_view english,
-                                  const QTranslator* translator);
+/// Every text of the product, ascending by name.
+[[nodiscard]] std::span<const CatalogueText> catalogueTexts();
+
+/// What a catalogue file tells texts of the same English apart by.
+[[nodiscard]] QByteArray disambiguationOf(const TextName& name);
+
+// Texts by a translator, or by those of the application where it is null. A translation is looked
+// for under the product's English text of the name and then under the caller's, english.
+
+/// The text that the product or a translator has under a name; none where neither has one.
+[[nodiscard]] std::optional<CString> tableText(const TextName& name, std::u16string_view english,
+                                               const QTranslator* translator);
+
+/// A translation, else the caller's English text. The product's in place of an operator's English
+/// name, which callers do not know, and where the caller has none.
+[[nodiscard]] CString localisedText(const TextName& name, std::u16string_view english,
+                                    const QTranslator* translator);
 
 /// A text of its own.
 [[nodiscard]] inline CString owned(std::u16string_view text)

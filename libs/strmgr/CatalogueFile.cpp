@@ -1,9 +1,11 @@
 #include "CatalogueFile.h"
 
+#include "CatalogueTranslator.h"
+
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QLoggingCategory>
-#include <QTranslator>
 
 #include <algorithm>
 
@@ -29,6 +31,15 @@ QString findExactly(const QString& language, const QStringList& folders)
             return path;
     }
     return {};
+}
+
+/// Empty where the file cannot be read, or is larger than any catalogue.
+QByteArray contentsOf(const QString& path)
+{
+    constexpr qint64 kLargest = 64 * 1024 * 1024;
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) && file.size() <= kLargest ? file.readAll()
+                                                                     : QByteArray();
 }
 
 } // namespace
@@ -62,12 +73,21 @@ CatalogueRead readCatalogue(const CString& language, const QStringList& folders)
         qCWarning(logStrMgr).noquote() << "no texts for the language" << language;
         return {};
     }
-    auto translator = std::make_unique<QTranslator>();
-    if (!translator->load(path)) {
+    // Read as a whole: a file that is mapped could change beneath the texts.
+    const auto texts = catalogueTextsOf(contentsOf(path));
+    auto translator =
+        std::make_unique<CatalogueTranslator>(texts ? *texts : std::vector<TranslatedText>());
+    if (translator->isEmpty()) {
         qCWarning(logStrMgr).noquote() << "cannot read the texts of" << path;
         return {};
     }
     return {std::move(translator), true};
+}
+
+std::unique_ptr<QTranslator> translatorOf(const CString& language, const QStringList& folders)
+{
+    CatalogueRead read = readCatalogue(language, folders);
+    return read.translator ? std::move(read.translator) : std::make_unique<QTranslator>();
 }
 
 } // namespace condtree

@@ -3,10 +3,9 @@
 #include <condtree/platform/WinTypes.h>
 
 #include <QStringList>
+#include <QTranslator>
 
 #include <memory>
-
-class QTranslator;
 
 namespace condtree {
 
@@ -20,6 +19,11 @@ struct CatalogueRead {
 
 /// Reads the catalogue of a language from the first folder that has one.
 [[nodiscard]] CatalogueRead readCatalogue(const CString& language, const QStringList& folders);
+
+/// The translator of a language, for texts that are to be in it alone; one without texts for
+/// English and where the catalogue is missing or broken. Never null.
+[[nodiscard]] std::unique_ptr<QTranslator> translatorOf(const CString& language,
+                                                        const QStringList& folders);
 
 /// The catalogue file of a language, or else that of the language without its country or script;
 /// empty when no folder has one.

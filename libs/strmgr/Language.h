@@ -9,9 +9,11 @@ class QCoreApplication;
 namespace condtree {
 
 /// The language of the texts, as a name like "de" or "pt_BR". A catalogue is a file of Qt's
-/// translation format named condtree_<language>.qm; its entries have the section as the context,
-/// the English text as the source and "<key> <id>" as the disambiguation. As the format has it, a
-/// number without an entry takes the first entry of its section with the same English text.
+/// translation format named condtree_<language>.qm, not compressed and without dependencies; its
+/// entries have the section as the context, the English text as the source and "<key> <id>" as the
+/// disambiguation. The product's numbers have no texts but their own. As the format has it, a
+/// number that is not the product's takes an entry without a disambiguation of its section and
+/// English text.
 
 /// Where the catalogues that come with the library may lie, most specific first: beside the
 /// library, in its prefix, and in the data folders of the user and the machine. Not all of them
@@ -29,7 +31,7 @@ preferredLanguage(const QStringList& wanted, const QStringList& folders = langua
 /// in the first of folders that has one is installed as a translator that the application owns.
 /// Texts that were fetched before stay as they are. Language "en" needs no catalogue; an empty name
 /// is "en". False when the texts stay English because the catalogue is missing or cannot be read,
-/// which is written to the log as one line.
+/// is damaged or has no texts, which is written to the log as one line.
 CONDTREE_EXPORT bool loadLanguage(QCoreApplication& application, const CString& language,
                                   const QStringList& folders = languageFolders());
 

@@ -2,8 +2,7 @@
 
 #include "Catalogue.h"
 #include "CatalogueFile.h"
-
-#include <QTranslator>
+#include "LanguageTexts.h"
 
 #include <utility>
 
@@ -15,13 +14,19 @@ StringTable::StringTable(const CString& title, CString key)
 {
 }
 
+StringTable::StringTable(const CString& title, CString key, const CString& language)
+    : StringTable(title, std::move(key))
+{
+    if (m_isOurs && !language.isEmpty())
+        m_translator = translatorOf(language, languageFolders());
+}
+
 StringTable::StringTable(const CString& title, CString key, const CString& language,
                          const QStringList& folders)
     : StringTable(title, std::move(key))
 {
-    m_hasLanguage = m_isOurs && !language.isEmpty();
-    if (m_hasLanguage)
-        m_translator = readCatalogue(language, folders).translator;
+    if (m_isOurs && !language.isEmpty())
+        m_translator = translatorOf(language, folders);
 }
 
 StringTable::~StringTable() = default;
@@ -33,23 +38,15 @@ std::optional<CString> StringTable::string(LONG id, const char16_t* section,
         return std::nullopt;
     const std::u16string_view key(QStringView(m_key).utf16(),
                                   static_cast<std::size_t>(m_key.size()));
-    const TextName name{id, key, viewOf(section)};
-    const std::u16string_view known = englishText(name);
-    const std::u16string_view source = known.empty() ? viewOf(english) : known;
-    if (!m_hasLanguage || m_translator != nullptr) {
-        CString text = translation(name, source, m_translator.get());
-        if (!text.isEmpty() && (!known.empty() || text != owned(source)))
-            return text;
-    }
-    return known.empty() ? std::nullopt : std::optional(owned(known));
+    return tableText({id, key, viewOf(section)}, viewOf(english), m_translator.get());
 }
 
 CString StringTableText(LONG id, const char16_t* key, const char16_t* section,
                         const char16_t* defaultText, const CString& language)
 {
-    const StringTable table(CString::fromUtf16(kProductTitle), owned(viewOf(key)), language);
-    const std::optional<CString> text = table.string(id, section, defaultText);
-    return text ? *text : owned(viewOf(defaultText));
+    if (language.isEmpty())
+        return localisedText({id, viewOf(key), viewOf(section)}, viewOf(defaultText), nullptr);
+    return LanguageTexts()(id, key, section, defaultText, language);
 }
 
 } // namespace condtree

@@ -80,6 +80,18 @@ TEST_F(Strings, AreInTheLanguageThatIsGivenAndLeaveTheApplicationsAlone)
     EXPECT_EQ(TSS_internal(106, u"OpName", u"Search", u"?"), QStringLiteral("Texte contient"));
 }
 
+TEST_F(Strings, AreNotThoseOfAnotherNumberWithTheSameEnglishText)
+{
+    load(QStringLiteral("xt"));
+    const StringTable applications(kTitle, kKey);
+    const StringTable given = in("xt");
+    for (const StringTable* table : {&applications, &given}) {
+        EXPECT_EQ(table->string(733, u"Workflow", u"File"), QStringLiteral("Datei"));
+        EXPECT_EQ(table->string(735, u"Workflow", u"File"), std::nullopt);
+        EXPECT_EQ(table->string(106, u"Search", u"String Contains"), std::nullopt);
+    }
+}
+
 TEST_F(Strings, OfAHostAreFoundByTheirEnglishText)
 {
     const StringTable table = in("xt");
@@ -110,8 +122,11 @@ TEST_F(Strings, AreLookedUpWithADefault)
         return StringTableText(id, u"ErrorCodes", u"ErrorCodes", defaultText,
                                QLatin1String(language));
     };
-    EXPECT_EQ(text(66, u"not this one"), QStringLiteral("An unspecified error occurred."));
-    EXPECT_EQ(text(66, u"", "de"), QStringLiteral("Es ist ein unbekannter Fehler aufgetreten."));
+    EXPECT_EQ(text(66, u"As the caller has it."), QStringLiteral("As the caller has it."));
+    EXPECT_EQ(text(66, u""), QStringLiteral("An unspecified error occurred."));
+    for (const char16_t* defaultText : {u"", u"As the caller has it."})
+        EXPECT_EQ(text(66, defaultText, "de"),
+                  QStringLiteral("Es ist ein nicht näher bezeichneter Fehler aufgetreten."));
     EXPECT_EQ(text(4711, u"A host's own."), QStringLiteral("A host's own."));
     EXPECT_EQ(text(4711, u"A host's own.", "de"), QStringLiteral("A host's own."));
     EXPECT_EQ(text(4711, nullptr), QString());

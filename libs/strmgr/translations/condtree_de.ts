@@ -105,7 +105,7 @@ Meist hilft es, den Vorgang zu wiederholen.</translation>
     <message>
         <source>An unspecified error occurred.</source>
         <comment>ErrorCodes 66</comment>
-        <translation>Es ist ein unbekannter Fehler aufgetreten.</translation>
+        <translation>Es ist ein nicht näher bezeichneter Fehler aufgetreten.</translation>
     </message>
     <message>
         <source>The SQL Server version is not supported by Tamsel.</source>
@@ -121,7 +121,7 @@ Meist hilft es, den Vorgang zu wiederholen.</translation>
         <source>The operating system version is not supported
 The following is the minimum requirement:</source>
         <comment>ErrorCodes 274</comment>
-        <translation>Die Version des Betriebssystems wird nicht unterstützt.
+        <translation>Die Version des Betriebssystems wird nicht unterstützt
 Mindestens erforderlich ist:</translation>
     </message>
 </context>
@@ -281,7 +281,7 @@ Mindestens erforderlich ist:</translation>
     <message>
         <source>A text holds a character that the database cannot hold; your changes were not saved. Remove the character and save again.</source>
         <comment>StoredProcs 2</comment>
-        <translation>Ein Text enthält ein Zeichen, das die Datenbank nicht aufnehmen kann; Ihre Änderungen wurden nicht gespeichert. Entfernen Sie das Zeichen, und speichern Sie erneut.</translation>
+        <translation>Ein Text enthält ein Zeichen, das die Datenbank nicht speichern kann; Ihre Änderungen wurden nicht gespeichert. Entfernen Sie das Zeichen, und speichern Sie erneut.</translation>
     </message>
     <message>
         <source>A text is larger than 16 MiB, which the database cannot hold; your changes were not saved. Shorten the text and save again.</source>

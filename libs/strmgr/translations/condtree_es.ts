@@ -344,12 +344,12 @@ Los requisitos mínimos son los siguientes:</translation>
     <message>
         <source>Child Reference State</source>
         <comment>TS 756</comment>
-        <translation>Estado de la referencia secundaria</translation>
+        <translation>Estado de la referencia subordinada</translation>
     </message>
     <message>
         <source>Child Reference historic State</source>
         <comment>TS 757</comment>
-        <translation>Estado histórico de la referencia secundaria</translation>
+        <translation>Estado histórico de la referencia subordinada</translation>
     </message>
 </context>
 </TS>

@@ -148,7 +148,7 @@ Voici la configuration minimale requise&#xa0;:</translation>
     <message>
         <source>&lt;Any Variable&gt;</source>
         <comment>TS 44</comment>
-        <translation>&lt;Toute variable&gt;</translation>
+        <translation>&lt;N’importe quelle variable&gt;</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -183,12 +183,12 @@ Voici la configuration minimale requise&#xa0;:</translation>
     <message>
         <source>String Less Than or Equal</source>
         <comment>OpName 104</comment>
-        <translation>Texte au plus égal à</translation>
+        <translation>Texte inférieur ou égal à</translation>
     </message>
     <message>
         <source>String Bigger Than or Equal</source>
         <comment>OpName 105</comment>
-        <translation>Texte au moins égal à</translation>
+        <translation>Texte supérieur ou égal à</translation>
     </message>
     <message>
         <source>String Contains</source>
@@ -228,12 +228,12 @@ Voici la configuration minimale requise&#xa0;:</translation>
     <message>
         <source>Number Less Than or Equal</source>
         <comment>OpName 124</comment>
-        <translation>Nombre au plus égal à</translation>
+        <translation>Nombre inférieur ou égal à</translation>
     </message>
     <message>
         <source>Number Bigger Than or Equal</source>
         <comment>OpName 125</comment>
-        <translation>Nombre au moins égal à</translation>
+        <translation>Nombre supérieur ou égal à</translation>
     </message>
     <message>
         <source>Date Equal To</source>

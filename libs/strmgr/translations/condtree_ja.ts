@@ -105,7 +105,7 @@ Usually this is solved if you try the operation again.</source>
     <message>
         <source>An unspecified error occurred.</source>
         <comment>ErrorCodes 66</comment>
-        <translation>不明なエラーが発生しました。</translation>
+        <translation>特定できないエラーが発生しました。</translation>
     </message>
     <message>
         <source>The SQL Server version is not supported by Tamsel.</source>
@@ -281,12 +281,12 @@ The following is the minimum requirement:</source>
     <message>
         <source>A text holds a character that the database cannot hold; your changes were not saved. Remove the character and save again.</source>
         <comment>StoredProcs 2</comment>
-        <translation>データベースに格納できない文字がテキストに含まれています。変更は保存されていません。その文字を取り除いて、もう一度保存してください。</translation>
+        <translation>データベースに格納できない文字が文字列に含まれています。変更は保存されていません。その文字を取り除いて、もう一度保存してください。</translation>
     </message>
     <message>
         <source>A text is larger than 16 MiB, which the database cannot hold; your changes were not saved. Shorten the text and save again.</source>
         <comment>StoredProcs 3</comment>
-        <translation>テキストがデータベースに格納できる上限の 16 MiB を超えています。変更は保存されていません。テキストを短くして、もう一度保存してください。</translation>
+        <translation>文字列がデータベースに格納できる上限の 16 MiB を超えています。変更は保存されていません。文字列を短くして、もう一度保存してください。</translation>
     </message>
 </context>
 <context>

@@ -75,7 +75,7 @@ Vanligtvis hjälper det att försöka igen.</translation>
     <message>
         <source>Administrated plugins successfully. You should now recreate the plugin menu.</source>
         <comment>ErrorCodes 26</comment>
-        <translation>Insticksmodulerna har administrerats. Du bör nu skapa om menyn för insticksmoduler.</translation>
+        <translation>Insticksmodulerna har administrerats utan fel. Du bör nu återskapa menyn för insticksmoduler.</translation>
     </message>
     <message>
         <source>Menu item not valid in this context due to specified flags.</source>
@@ -183,12 +183,12 @@ Följande är minimikravet:</translation>
     <message>
         <source>String Less Than or Equal</source>
         <comment>OpName 104</comment>
-        <translation>Text högst</translation>
+        <translation>Text högst lika med</translation>
     </message>
     <message>
         <source>String Bigger Than or Equal</source>
         <comment>OpName 105</comment>
-        <translation>Text minst</translation>
+        <translation>Text minst lika med</translation>
     </message>
     <message>
         <source>String Contains</source>
@@ -228,12 +228,12 @@ Följande är minimikravet:</translation>
     <message>
         <source>Number Less Than or Equal</source>
         <comment>OpName 124</comment>
-        <translation>Tal högst</translation>
+        <translation>Tal högst lika med</translation>
     </message>
     <message>
         <source>Number Bigger Than or Equal</source>
         <comment>OpName 125</comment>
-        <translation>Tal minst</translation>
+        <translation>Tal minst lika med</translation>
     </message>
     <message>
         <source>Date Equal To</source>
@@ -276,17 +276,17 @@ Följande är minimikravet:</translation>
     <message>
         <source>The condition was saved by somebody else after it was loaded; your changes were not saved. Load the condition again and repeat your changes.</source>
         <comment>StoredProcs 1</comment>
-        <translation>Villkoret sparades av någon annan efter att det hade lästs in; dina ändringar sparades inte. Läs in villkoret igen och gör om dina ändringar.</translation>
+        <translation>Villkoret sparades av någon annan efter att det hade lästs in; dina ändringar har inte sparats. Läs in villkoret igen och gör om dina ändringar.</translation>
     </message>
     <message>
         <source>A text holds a character that the database cannot hold; your changes were not saved. Remove the character and save again.</source>
         <comment>StoredProcs 2</comment>
-        <translation>En text innehåller ett tecken som databasen inte kan lagra; dina ändringar sparades inte. Ta bort tecknet och spara igen.</translation>
+        <translation>En text innehåller ett tecken som databasen inte kan lagra; dina ändringar har inte sparats. Ta bort tecknet och spara igen.</translation>
     </message>
     <message>
         <source>A text is larger than 16 MiB, which the database cannot hold; your changes were not saved. Shorten the text and save again.</source>
         <comment>StoredProcs 3</comment>
-        <translation>En text är större än 16 MiB, vilket databasen inte kan lagra; dina ändringar sparades inte. Korta texten och spara igen.</translation>
+        <translation>En text är större än 16 MiB, vilket databasen inte kan lagra; dina ändringar har inte sparats. Korta texten och spara igen.</translation>
     </message>
 </context>
 <context>
@@ -344,12 +344,12 @@ Följande är minimikravet:</translation>
     <message>
         <source>Child Reference State</source>
         <comment>TS 756</comment>
-        <translation>Underordnad referens status</translation>
+        <translation>Status för underordnad referens</translation>
     </message>
     <message>
         <source>Child Reference historic State</source>
         <comment>TS 757</comment>
-        <translation>Underordnad referens tidigare status</translation>
+        <translation>Tidigare status för underordnad referens</translation>
     </message>
 </context>
 </TS>
