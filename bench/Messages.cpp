@@ -1,4 +1,6 @@
 #include <condtree/refdata/ErrorText.h>
+#include <condtree/strmgr/LanguageTexts.h>
+#include <condtree/strmgr/StringTable.h>
 
 #include <benchmark/benchmark.h>
 
@@ -127,6 +129,33 @@ void MessageWhole(benchmark::State& state)
         benchmark::DoNotOptimize(text);
     }
 }
+/// In a named language, whose file is read once.
+void MessageGerman(benchmark::State& state)
+{
+    const std::vector<HRESULT> codes = catalogueCodes();
+    const LanguageTexts texts;
+    const CString german = QStringLiteral("de");
+    if (ResultCodeText(E_FAIL, texts, german) == ResultCodeText(E_FAIL)) {
+        state.SkipWithError("there are no German texts");
+        return;
+    }
+    std::size_t next = 0;
+    for (auto _ : state) {
+        CString text = ResultCodeText(codes[next++ % codes.size()], texts, german);
+        benchmark::DoNotOptimize(text);
+    }
+}
+/// The same when every text reads the file.
+void MessageGermanReadEachTime(benchmark::State& state)
+{
+    const std::vector<HRESULT> codes = catalogueCodes();
+    const CString german = QStringLiteral("de");
+    std::size_t next = 0;
+    for (auto _ : state) {
+        CString text = ResultCodeText(codes[next++ % codes.size()], &StringTableText, german);
+        benchmark::DoNotOptimize(text);
+    }
+}
 
 BENCHMARK(MessageFindOwn);
 BENCHMARK(MessageFindHosts);
@@ -135,6 +164,8 @@ BENCHMARK(MessageMakeOwn);
 BENCHMARK(MessageMakeHosts);
 BENCHMARK(MessageMakeBare);
 BENCHMARK(MessageWhole);
+BENCHMARK(MessageGerman);
+BENCHMARK(MessageGermanReadEachTime);
 
 } // namespace
 

@@ -28,6 +28,7 @@
 #include <condtree/storedprocs/SpSample.h>
 #include <condtree/storedprocs/SpTransitions.h>
 #include <condtree/strmgr/Language.h>
+#include <condtree/strmgr/LanguageTexts.h>
 #include <condtree/strmgr/StringTable.h>
 #include <condtree/values/DateStyle.h>
 #include <condtree/values/LocaleDate.h>
