@@ -3,7 +3,8 @@
 # Makes a C++ file of a table at build time and adds it to the target's sources, with its folder on the target's
 # include path. The table is UTF-8 text: "#" begins a comment line, the first other line names the columns, fields are
 # separated by tabs, "\n" stands for a line feed. Every row becomes a line: the template, in which @column@ is the
-# field, fit for the inside of a string literal; a field "-" is "{}". No two rows may agree in all UNIQUE columns.
+# field, fit for the inside of a string literal; a field "-" is "{}", and refused where the template has its column in
+# quotes. No two rows may agree in all UNIQUE columns.
 # A fault of the table ends the build and names the line.
 function(condtree_table target table)
   cmake_parse_arguments(PARSE_ARGV 2 arg "" "ROW;OUTPUT" "UNIQUE")

@@ -41,11 +41,18 @@ refused 2 'a backslash that is no \n' < <(printf 'code\tkey\ttext\n1\tA\tat the 
 refused 2 'a backslash that is no \n' < <(printf 'code\tkey\ttext\n1\tA\ttwo: \\\\n\n')
 refused 2 'a carriage return' < <(printf 'code\tkey\ttext\n1\tA\tone\rtwo\n')
 refused 2 'the last line has no end' < <(printf 'code\tkey\ttext\n1\tA\tone')
+refused 2 'nothing (-) in the column key, which is a text' < <(printf 'code\tkey\ttext\n1\t-\tone\n')
+refused 3 'nothing (-) in the column text, which is a text' < <(printf 'code\tkey\ttext\n-\tA\tone\n2\tA\t-\n')
 refused 1 'no column is named number' number < <(printf 'code\tkey\ttext\n1\tA\tone\n')
 
 # Rows that agree in one of the two columns, or that lack them both, are told apart.
+quoted_row="$row"
+row='{@code@, @key@, u8"\"@text@"},'
 accepted code,key < <(printf \
     'code\tkey\ttext\n1\tA\tone\n1\tB\ttwo\n2\tA\tthree\n-\t-\tfour\n-\t-\tfive\n-\tA\tsix\n')
+[[ "$(tail -n 3 "$work/messages.inc" | head -n 1)" == '{{}, {}, u8"\"four"},' ]] || fail "nothing is something else"
+refused 2 'nothing (-) in the column text, which is a text' < <(printf 'code\tkey\ttext\n1\t-\t-\n')
+row="$quoted_row"
 accepted '' < <(printf 'code\tkey\ttext\n1\tA\tone\n1\tA\tone\n')
 # The ends of lines may be those of another system.
 accepted code < <(printf 'code\tkey\ttext\r\n1\tA\tone\r\n')

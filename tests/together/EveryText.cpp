@@ -3,7 +3,6 @@
 #include <condtree/model/ControlText.h>
 #include <condtree/platform/ResultTexts.h>
 #include <condtree/storedprocs/SpConnect.h>
-#include <condtree/storedprocs/SpTransitions.h>
 #include <condtree/values/OperatorCatalogue.h>
 
 #include <gtest/gtest.h>
@@ -60,14 +59,15 @@ Texts catalogue()
     return tableOf(CONDTREE_TEXTS, 0, 1, 2, 3);
 }
 
-/// The messages of the data-access library's own codes.
+/// The messages of the data-access library's own codes: of the whole range, so that none is
+/// forgotten.
 Texts textsOfTheLibrary()
 {
     ResultTexts added;
     SpAddResultTexts(added);
     Texts texts;
-    for (const HRESULT code : {SP_E_CHANGED, SP_E_BAD_TEXT, SP_E_TOO_LONG}) {
-        if (const ResultText* text = added.find(code))
+    for (DWORD code = 0x80040500; code <= 0x800405FF; ++code) {
+        if (const ResultText* text = added.find(static_cast<HRESULT>(code)))
             texts.emplace(text->key, text->section, text->id, text->defaultText);
     }
     return texts;
@@ -98,6 +98,11 @@ TEST(EveryText, OfTheCodeIsInTheCatalogue)
 {
     EXPECT_GT(textsOfTheCode().size(), 60U);
     EXPECT_EQ(difference(textsOfTheCode(), catalogue()), "");
+}
+
+TEST(EveryText, OfTheDataAccessLibraryIsInItsRange)
+{
+    EXPECT_GE(textsOfTheLibrary().size(), 3U);
 }
 
 TEST(EveryText, OfTheCatalogueIsUsed)
