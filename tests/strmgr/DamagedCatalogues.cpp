@@ -168,6 +168,17 @@ TEST_F(DamagedCatalogues, ACatalogueWithoutTextsIsRefused)
     EXPECT_EQ(textsOf(whole.first(23) + whole.last(7)), std::nullopt); // and its plural rules
 }
 
+TEST_F(DamagedCatalogues, ACatalogueThatDependsOnFilesOrHasASectionTwiceIsRefused)
+{
+    const QByteArray whole = german();
+    const QByteArray rules = whole.last(7);
+    EXPECT_NE(textsOf(whole), std::nullopt);
+    EXPECT_EQ(textsOf(whole + rules), std::nullopt);
+    EXPECT_EQ(textsOf(whole + QByteArray("\x96\0\0\0\x06\0\0\0\x02\0x", 11)), std::nullopt);
+    EXPECT_EQ(textsOf(whole + QByteArray("\x2e\0\0\0\x01x", 6)), std::nullopt);
+    EXPECT_EQ(textsOf(whole + QByteArray("\x2f\0\0\0\0", 5)), std::nullopt);
+}
+
 TEST_F(DamagedCatalogues, ANamedLanguageIsRefusedLikewise)
 {
     QFile file(m_folder.filePath(QStringLiteral("condtree_xb.qm")));
