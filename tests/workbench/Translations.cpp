@@ -185,7 +185,7 @@ TEST_F(Translations, WhatAReportDoesNotTellIsTheResultsOwnMessage)
     SpSaveReport report;
     report.message = QStringLiteral("English");
     EXPECT_EQ(saveRefusal(E_FAIL, report),
-              QStringLiteral("Es ist ein unbekannter Fehler aufgetreten."));
+              QStringLiteral("Es ist ein nicht näher bezeichneter Fehler aufgetreten."));
 }
 
 TEST_F(Translations, RefusedSavesAreTold)
