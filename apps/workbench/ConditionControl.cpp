@@ -14,11 +14,12 @@ namespace {
 // The style that databases and files share: year, month, day; no two users read it differently.
 constexpr LONG kDateStyle = 120;
 
-// The names of operators are the longest texts of a row; in a window of the first size, the longest
-// of them in any language is to be seen whole.
+// In a window of the first size, the longest kind of condition and the longest operator of any
+// language are to be seen whole.
 constexpr int kWholeRow = 100;
-constexpr int kNameShare = 23;
-constexpr int kOperatorShare = 30;
+constexpr int kNameShare = 33;
+constexpr int kOperatorShare = 24;
+constexpr int kValueShare = 24;
 // Every kind of condition is offered that a full vault has, but for users and groups, which belong
 // to the one tree type that leaves child reference states out.
 constexpr KiroVaultType kVaultType{0};
@@ -103,6 +104,7 @@ ConditionControl::ConditionControl(SpMgr* manager, QWidget* parent, Services ser
     mvInitialize(manager, kDateStyle, kVaultType, kTreeType);
     mvResizeCol(0, kNameShare, kWholeRow);
     mvResizeCol(1, kOperatorShare, kWholeRow);
+    mvResizeCol(2, kValueShare, kWholeRow);
 }
 
 MaybeFailure ConditionControl::prepare(const ConditionRecords& records)

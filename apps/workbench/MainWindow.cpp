@@ -54,7 +54,7 @@ MainWindow::MainWindow(const Database& database, const std::vector<SpTransition>
     connect(m_editor, &ConditionEditor::unsavedChanged, this, &MainWindow::showState);
     showState();
     const QFontMetrics metrics = fontMetrics();
-    resize(metrics.averageCharWidth() * 180, metrics.height() * 42);
+    resize(metrics.averageCharWidth() * 225, metrics.height() * 48);
 }
 
 MaybeFailure MainWindow::open(const SpTransition& transition)
@@ -138,9 +138,9 @@ void MainWindow::makeLayout()
     splitter->setChildrenCollapsible(false);
     splitter->addWidget(side);
     splitter->addWidget(m_editor);
-    splitter->setStretchFactor(0, 3);
-    splitter->setStretchFactor(1, 7);
-    splitter->setSizes({300, 700});
+    splitter->setStretchFactor(0, 1);
+    splitter->setStretchFactor(1, 4);
+    splitter->setSizes({200, 800});
     setCentralWidget(splitter);
 }
 

@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QLoggingCategory>
+#include <QScreen>
 
 namespace condtree::workbench {
 
@@ -19,6 +20,7 @@ MaybeFailure runWindow(const Options& options)
     if (!transitions.hasValue())
         return transitions.failure();
     MainWindow window(*database.value(), transitions.value(), realServices());
+    window.resize(window.size().boundedTo(window.screen()->availableSize() * 9 / 10));
     // A database without transitions is an empty window, unless one was asked for.
     if (!transitions.value().empty() || !options.transition.isNull()) {
         const auto chosen = chosenTransition(options, transitions.value());

@@ -49,13 +49,20 @@ TEST_F(Window, ItTellsWhereItIsConnected)
     EXPECT_EQ(label("connection"), QStringLiteral("%1 on sample.db").arg(m_database->userName()));
 }
 
-TEST_F(Window, ItsFirstSizeShowsEveryOperatorOfEveryLanguageWhole)
+TEST_F(Window, ItsFirstSizeShowsKindsAndOperatorsOfEveryLanguageWhole)
 {
     const ConditionControl& control = editor().control();
     const QModelIndex nested = control.model()->index(0, 0, control.model()->index(3, 0));
-    const int row = control.viewport()->width() - control.visualRect(nested).left();
+    // The first column begins where the row's icon ends, the others count from the row's left edge.
+    const int row = control.viewport()->width();
     const int icon = realServices().systemMetric(SM_CXSMICON);
+    const int indented = control.visualRect(nested).left() + icon;
+    const int nameRoom = control.miGetColumnSize(0, row) - indented - 8;
     const int room = control.miGetColumnSize(1, row) - icon - 6; // the margins of icon and text
+    const std::pair<LONG, const char16_t*> kinds[] = {{20, u"FilePath"},
+                                                      {732, u"Object Type"},
+                                                      {756, u"Child Reference State"},
+                                                      {757, u"Child Reference historic State"}};
     struct Row {
         const char* language;
         const char* equal;
@@ -68,6 +75,11 @@ TEST_F(Window, ItsFirstSizeShowsEveryOperatorOfEveryLanguageWhole)
         for (LONG op = 100; op < 140; ++op) {
             const QString name = TSS_internal(op, u"OpName", u"Search", u"?");
             EXPECT_LE(control.fontMetrics().horizontalAdvance(name), room) << name.toStdString();
+        }
+        for (const auto& [id, english] : kinds) {
+            const QString name = TSS_internal(id, u"TS", u"Workflow", english);
+            EXPECT_LE(control.fontMetrics().horizontalAdvance(name), nameRoom)
+                << name.toStdString();
         }
     }
     useLanguage(*qApp, {});

@@ -344,12 +344,12 @@ Mindestens erforderlich ist:</translation>
     <message>
         <source>Child Reference State</source>
         <comment>TS 756</comment>
-        <translation>Status der untergeordneten Referenz</translation>
+        <translation>Status untergeordneter Referenz</translation>
     </message>
     <message>
         <source>Child Reference historic State</source>
         <comment>TS 757</comment>
-        <translation>Früherer Status der untergeordneten Referenz</translation>
+        <translation>Früherer Status untergeordneter Referenz</translation>
     </message>
 </context>
 </TS>
