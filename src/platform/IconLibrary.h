@@ -34,6 +34,9 @@ public:
     virtual IconResult loadIcon(const CString& name, int use, IconPixels& icon) = 0;
     /// A strip of icons side by side, each as wide as loadIcon's.
     virtual IconResult loadImage(const CString& name, int use, IconPixels& strip) = 0;
+    /// An icon or a strip so many pixels high, drawn for that size; a strip's icons are as wide as
+    /// they are high. A library that has no such pictures says so.
+    virtual IconResult loadAtSize(const CString& name, int height, IconPixels& pixels);
 };
 
 } // namespace condtree

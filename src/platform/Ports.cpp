@@ -7,4 +7,9 @@ namespace condtree {
 RegistryStore::~RegistryStore() = default;
 IconLibrary::~IconLibrary() = default;
 
+IconResult IconLibrary::loadAtSize(const CString&, int, IconPixels&)
+{
+    return IconResult::NoLibrary;
+}
+
 } // namespace condtree
