@@ -311,7 +311,8 @@ std::function<LRESULT(NMTVCUSTOMDRAW&)> CondTreeCtrl::stage()
 
 void CondTreeCtrl::paintEvent(QPaintEvent* event)
 {
-    m_parts->drawing.begin(notification(this, nullptr, viewport()->rect(), nullptr), stage());
+    m_parts->drawing.begin(notification(this, nullptr, viewport()->rect(), nullptr), stage(),
+                           *this);
     QTreeView::paintEvent(event);
 }
 
@@ -322,8 +323,8 @@ void CondTreeCtrl::drawRow(QPainter* painter, const QStyleOptionViewItem& option
         const_cast<CondTreeCtrl*>(this)->stage(); // a subclass's handler may change things
     NMTVCUSTOMDRAW draw = notification(this, painter, option.rect, m_parts->model.itemOf(index));
     const bool isTold = m_parts->drawing.beginRow(draw, stage);
-    QTreeView::drawRow(painter, option, index);
-    RowDrawing::endRow(draw, stage, isTold);
+    QTreeView::drawRow(painter, RowDrawing::plain(option), index);
+    m_parts->drawing.endRow(draw, stage, isTold, *this);
 }
 
 void CondTreeCtrl::changeEvent(QEvent* event)

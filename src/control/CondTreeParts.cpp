@@ -1,5 +1,6 @@
 #include "CondTreeParts.h"
 
+#include <condtree/control/RealIcons.h>
 #include <condtree/control/RealServices.h>
 #include <condtree/presentation/CDPIHelper.h>
 #include <condtree/refdata/ErrorText.h>
@@ -36,7 +37,8 @@ Services completed(Services ports)
     fillIn(ports.doubleClickTime, real.doubleClickTime);
     fillIn(ports.bitsPerPixel, real.bitsPerPixel);
     fillIn(ports.registry, real.registry);
-    fillIn(ports.icons, real.icons);
+    if (!ports.icons) // where these settings say
+        ports.icons = iconsOf(ports.registry);
     fillIn(ports.resultTexts, real.resultTexts);
     return ports;
 }

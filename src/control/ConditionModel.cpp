@@ -6,7 +6,7 @@
 #include <condtree/values/CommandCatalogue.h>
 #include <condtree/values/OperatorCatalogue.h>
 
-#include <QPixmap>
+#include <QIcon>
 #include <QStringList>
 
 #include <algorithm>
@@ -297,7 +297,7 @@ QVariant ConditionModel::picture(int image) const
     if (rows == nullptr || image < 0 || image >= rows->count())
         return {};
     while (static_cast<int>(m_pictures.size()) <= image)
-        m_pictures.push_back(QPixmap::fromImage(rows->image(static_cast<int>(m_pictures.size()))));
+        m_pictures.push_back(m_images.rowIcon(static_cast<int>(m_pictures.size())));
     return m_pictures[static_cast<std::size_t>(image)];
 }
 

@@ -1,7 +1,7 @@
 #include "RealServices.h"
 
-#include <condtree/control/BlankIcons.h>
 #include <condtree/control/MessageBox.h>
+#include <condtree/control/RealIcons.h>
 #include <condtree/platform/StrMgr.h>
 #include <condtree/presentation/SystemMetrics.h>
 #include <condtree/refdata/RegFileStore.h>
@@ -70,7 +70,7 @@ Services realServices()
     };
     services.bitsPerPixel = readBitsPerPixel;
     services.registry = std::make_shared<RegFileStore>();
-    services.icons = std::make_shared<BlankIcons>(realSystemMetric);
+    services.icons = iconsOf(services.registry);
     services.resultTexts = std::make_shared<ResultTexts>();
     return services;
 }

@@ -5,7 +5,9 @@
 #include <condtree/presentation/ConditionImages.h>
 #include <condtree/presentation/CustomDraw.h>
 #include <condtree/presentation/RowLayout.h>
+#include <condtree/presentation/RowMarks.h>
 #include <condtree/presentation/RowPainter.h>
+#include <condtree/presentation/RowStyle.h>
 
 #include <QPainter>
 #include <QStyle>
@@ -72,11 +74,16 @@ void RowDrawing::paint(QPainter& painter, const VarTreeCtrlNode& node, const Row
     const RowLayout layout(place.row, place.textLeft, m_columns,
                            m_services.systemMetric(SM_CXSMICON));
     const RowContent content = contentOfRow(node, m_model.top());
-    paintRow(painter, describeRow(content, layout, m_services.string), images);
+    paintRow(painter, describeRow(content, layout, m_services.string), images, m_texts);
 }
 
-void RowDrawing::begin(NMTVCUSTOMDRAW draw, const Stage& stage)
+void RowDrawing::begin(NMTVCUSTOMDRAW draw, const Stage& stage, const QTreeView& view)
 {
+    const POINT pointer = m_services.cursorPos();
+    const QWidget& viewport = *view.viewport();
+    m_hovered = viewport.underMouse()
+                    ? view.indexAt(viewport.mapFromGlobal(QPoint(pointer.x, pointer.y)))
+                    : QModelIndex();
     draw.dwDrawStage = CDDS_PREPAINT;
     m_tellsRows = (stage(draw) & CDRF_NOTIFYITEMDRAW) != 0;
 }
@@ -87,11 +94,33 @@ bool RowDrawing::beginRow(NMTVCUSTOMDRAW& draw, const Stage& stage) const
     return m_tellsRows && (stage(draw) & CDRF_NOTIFYPOSTPAINT) != 0;
 }
 
-void RowDrawing::endRow(NMTVCUSTOMDRAW& draw, const Stage& stage, bool isTold)
+QStyleOptionViewItem RowDrawing::plain(QStyleOptionViewItem option)
+{
+    option.palette.setBrush(QPalette::Highlight, Qt::transparent);
+    return option;
+}
+
+void RowDrawing::endRow(NMTVCUSTOMDRAW& draw, const Stage& stage, bool isTold,
+                        const QTreeView& view) const
 {
     draw.dwDrawStage = CDDS_ITEMPOSTPAINT;
     if (isTold)
         stage(draw);
+    mark(draw, view);
+}
+
+void RowDrawing::mark(const NMTVCUSTOMDRAW& draw, const QTreeView& view) const
+{
+    const QModelIndex index = m_model.indexOf(draw.dwItemSpec);
+    if (!index.isValid()) // a subclass's handler may have deleted the row
+        return;
+    const RowMarks marks{view.selectionModel()->isSelected(index), index == m_hovered,
+                         view.hasFocus() && index == view.currentIndex()};
+    const RECT row{0, draw.rc.top, view.viewport()->width(), draw.rc.bottom};
+    const QPalette& palette = view.palette();
+    const COLORREF colour = markColour(palette, palette.currentColorGroup());
+    if (const RowPicture picture = describeMarks(row, marks, colour); !picture.isEmpty())
+        paintRow(*draw.hdc, picture, ImgLst{QSize()}, m_texts);
 }
 
 QSize RowDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const

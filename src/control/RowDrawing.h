@@ -2,8 +2,10 @@
 
 #include <condtree/platform/Services.h>
 #include <condtree/platform/TreeVocabulary.h>
+#include <condtree/presentation/FittedTexts.h>
 #include <condtree/presentation/RowPicture.h>
 
+#include <QPersistentModelIndex>
 #include <QStyledItemDelegate>
 
 #include <functional>
@@ -45,21 +47,29 @@ public:
     /// a notification without a painter, paint nothing.
     LRESULT handle(const NMTVCUSTOMDRAW& draw, const QTreeView& view) const;
 
-    /// Begins a repaint; stage answers whether the rows are told.
-    void begin(NMTVCUSTOMDRAW draw, const Stage& stage);
+    /// Begins a repaint of view; stage answers whether the rows are told.
+    void begin(NMTVCUSTOMDRAW draw, const Stage& stage, const QTreeView& view);
     /// Tells of a row before the view draws it. Whether its last stage is told too.
     [[nodiscard]] bool beginRow(NMTVCUSTOMDRAW& draw, const Stage& stage) const;
-    /// Tells of a row's last stage, if isTold.
-    static void endRow(NMTVCUSTOMDRAW& draw, const Stage& stage, bool isTold);
+    /// How the view itself is to draw a row: without its highlight, which the columns would cover
+    /// but for a rest at the left.
+    [[nodiscard]] static QStyleOptionViewItem plain(QStyleOptionViewItem option);
+    /// Tells of a row's last stage, if isTold, and marks it as selected, hovered or focused.
+    void endRow(NMTVCUSTOMDRAW& draw, const Stage& stage, bool isTold, const QTreeView& view) const;
 
 private:
+    void mark(const NMTVCUSTOMDRAW& draw, const QTreeView& view) const;
     void paint(QPainter& painter, const VarTreeCtrlNode& node, const RowPlace& place) const;
 
     const Services& m_services;
     const ConditionModel& m_model;
     const ColumnShares& m_columns;
     const ConditionImages& m_images;
+    // Remembering how a text was cut is no change that anyone can see.
+    mutable FittedTexts m_texts;
     bool m_tellsRows = false;
+    /// The row under the pointer during a repaint.
+    QPersistentModelIndex m_hovered;
 };
 
 /// Gives rows their height: that of the resolution, or of the font where that is larger.

@@ -5,6 +5,8 @@
 #include <functional>
 #include <optional>
 
+class QWidget;
+
 namespace condtree {
 
 /// What an image is used for, which decides its size.
@@ -95,6 +97,10 @@ public:
     /// The largest of two heights and the desktop's menu height, in the resolution in use.
     [[nodiscard]] int getMenuItemHeight(int a, int b) const;
     [[nodiscard]] int getListAndComboBoxItemHeight() const;
+    /// Gives the rows of a list that height: of a combo box's list where the class of window has
+    /// "Combo" in its name, else of a list box (QListView) where it has "List". Case counts; any
+    /// other window, and null, stay as they are.
+    void adjustListBoxAndComboBoxItemHeight(QWidget* window) const;
 
     // The button and image sizes of the two toolbar styles. The setters return the size that they
     // set.

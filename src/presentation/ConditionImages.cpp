@@ -1,5 +1,7 @@
 #include "ConditionImages.h"
 
+#include <condtree/presentation/CDib.h>
+#include <condtree/presentation/ListIcon.h>
 #include <condtree/presentation/RowStyle.h>
 
 #include <QPainter>
@@ -65,49 +67,104 @@ std::vector<QImage> loadRowIcons(IconLibrary& library)
     return isThere ? icons : std::vector<QImage>{};
 }
 
-/// The icons side by side on white, as high as the highest, but not less than the list's.
-QImage stripOf(const std::vector<QImage>& icons, const ImgLst& list)
+/// The icons side by side on white, each as large as a cell; null ones are blank.
+QImage stripOf(const std::vector<QImage>& icons, const QSize& cell)
+{
+    QImage strip(cell.width() * static_cast<int>(icons.size()), cell.height(),
+                 QImage::Format_ARGB32_Premultiplied);
+    strip.fill(toQColor(kRowBackground));
+    QPainter painter(&strip);
+    int x = 0;
+    for (const QImage& icon : icons) {
+        if (!icon.isNull())
+            painter.drawImage(x, 0,
+                              icon.convertToFormat(QImage::Format_ARGB32_Premultiplied)
+                                  .scaled(cell, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+        x += cell.width();
+    }
+    return strip;
+}
+
+/// The height of the highest icon.
+int heightOf(const std::vector<QImage>& icons)
 {
     int height = 0;
     for (const QImage& icon : icons)
         height = std::max(height, icon.height());
-    const QSize cell = list.pixelSize(height);
+    return height;
+}
 
-    ImgLst scaled(cell);
-    for (const QImage& icon : icons) {
-        QImage blank(cell, QImage::Format_ARGB32_Premultiplied);
-        blank.fill(Qt::transparent);
-        scaled.append(icon.isNull()
-                          ? blank
-                          : icon.scaled(cell, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+QImage loadAtSize(IconLibrary& library, const CString& name, const QSize& cell)
+{
+    IconPixels pixels;
+    if (library.loadAtSize(name, cell.height(), pixels) != IconResult::Loaded)
+        return {};
+    const QImage image = toImage(pixels);
+    return image.height() == cell.height() ? image : QImage();
+}
+
+/// The row icons for a cell: drawn for it where the library does so, else the ones that it gave.
+QImage redrawRows(IconLibrary& library, std::vector<QImage> icons, const QSize& cell)
+{
+    bool isRedrawn = false;
+    for (std::size_t i = 0; i < icons.size(); ++i) {
+        if (icons[i].isNull()) // blank once is blank in every resolution
+            continue;
+        QImage icon = loadAtSize(library, CString::fromUtf16(kRowIcons[i]), cell);
+        isRedrawn = isRedrawn || !icon.isNull();
+        if (!icon.isNull())
+            icons[i] = icon;
     }
+    return isRedrawn ? stripOf(icons, cell) : QImage();
+}
 
-    QImage strip(cell.width() * scaled.count(), cell.height(), QImage::Format_ARGB32_Premultiplied);
-    strip.fill(toQColor(kRowBackground));
-    QPainter painter(&strip);
-    for (int i = 0; i < scaled.count(); ++i)
-        scaled.draw(painter, i, {i * cell.width(), 0});
-    return strip;
+/// An operator strip whose icons are as wide as a cell. The library's are squares: where the cells
+/// are none, the strip is stretched.
+QImage redrawOperators(IconLibrary& library, const CString& name, const QSize& cell)
+{
+    const QImage strip = loadAtSize(library, name, cell);
+    if (strip.isNull() || cell.width() == cell.height())
+        return strip;
+    const int icons = strip.width() / cell.height();
+    return strip.scaled(icons * cell.width(), cell.height(), Qt::IgnoreAspectRatio,
+                        Qt::SmoothTransformation);
 }
 
 } // namespace
 
 void ConditionImages::append(IconLibrary& library, const QSize& iconSize, int bitsPerPixel)
 {
-    if (!m_rows) {
-        m_rows.emplace(iconSize, bitsPerPixel < kFullColourBits ? ImgLst::Depth::Indexed8
-                                                                : ImgLst::Depth::Colour32);
-        m_operators.emplace(iconSize);
+    if (m_rows == nullptr) {
+        m_rows = std::make_shared<ImgLst>(iconSize, bitsPerPixel < kFullColourBits
+                                                        ? ImgLst::Depth::Indexed8
+                                                        : ImgLst::Depth::Colour32);
+        m_operators = std::make_shared<ImgLst>(iconSize);
     }
 
     const std::vector<QImage> icons = loadRowIcons(library);
-    if (!icons.empty() && !m_rows->imageSize().isEmpty())
-        m_rows->appendStrip(stripOf(icons, *m_rows), kMask);
+    CDib dib;
+    if (!icons.empty() && !m_rows->imageSize().isEmpty()) {
+        dib.attach(stripOf(icons, m_rows->pixelSize(heightOf(icons))));
+        m_rows->appendStrip(dib.bitmap(), kMask, [&library, icons](const QSize& cell) {
+            return redrawRows(library, icons, cell);
+        });
+    }
     for (const char16_t* name : kOperatorStrips) {
         IconPixels pixels;
-        if (library.loadImage(CString::fromUtf16(name), kUse, pixels) == IconResult::Loaded)
-            m_operators->appendStrip(toImage(pixels), kMask);
+        const CString text = CString::fromUtf16(name);
+        if (library.loadImage(text, kUse, pixels) != IconResult::Loaded)
+            continue;
+        dib.attach(toImage(pixels));
+        m_operators->appendStrip(dib.bitmap(), kMask, [&library, text](const QSize& cell) {
+            return redrawOperators(library, text, cell);
+        });
     }
+}
+
+QIcon ConditionImages::rowIcon(int index) const
+{
+    const bool isThere = m_rows != nullptr && index >= 0 && index < m_rows->count();
+    return isThere ? listIcon(m_rows, index) : QIcon();
 }
 
 } // namespace condtree

@@ -1,8 +1,10 @@
 #include "ImgLst.h"
 
+#include <condtree/presentation/CDib.h>
 #include <condtree/presentation/RowStyle.h>
 
 #include <QPainter>
+#include <QTransform>
 
 #include <algorithm>
 #include <cstddef>
@@ -13,6 +15,11 @@
 namespace condtree {
 
 namespace {
+
+/// More resolutions than the screens of one desktop have.
+constexpr std::size_t kMostEditions = 8;
+/// Pictures of more pixels are enlarged by the painter.
+constexpr int kHighest = 1024;
 
 /// Makes every pixel of the mask colour transparent.
 void applyMask(QImage& image, COLORREF mask)
@@ -27,6 +34,28 @@ void applyMask(QImage& image, COLORREF mask)
     }
 }
 
+/// The pictures of a strip, side by side from the left.
+std::vector<QImage> cut(const QImage& strip, const QSize& cell, COLORREF mask)
+{
+    std::vector<QImage> pictures;
+    if (strip.isNull() || cell.isEmpty())
+        return pictures;
+    QImage masked = strip.convertToFormat(QImage::Format_ARGB32);
+    applyMask(masked, mask);
+    for (int x = 0; x + cell.width() <= masked.width(); x += cell.width())
+        pictures.push_back(masked.copy(QRect({x, 0}, cell)));
+    return pictures;
+}
+
+/// The halftone palette, with a transparent entry in the place of a grey one.
+QList<QRgb> halftoneTable()
+{
+    const CPalette palette = halftonePalette();
+    QList<QRgb> table(palette.entries.begin(), palette.entries.end());
+    table.back() = qRgba(0, 0, 0, 0);
+    return table;
+}
+
 /// A copy with 8 bits a pixel, in the picture's own colours as far as a colour table holds them.
 QImage toIndexed(const QImage& image)
 {
@@ -38,7 +67,7 @@ QImage toIndexed(const QImage& image)
         colours.insert(line, line + source.width());
     }
     if (colours.size() > largestTable)
-        return source.convertToFormat(QImage::Format_Indexed8);
+        return source.convertToFormat(QImage::Format_Indexed8, halftoneTable());
     return source.convertToFormat(QImage::Format_Indexed8, {colours.begin(), colours.end()});
 }
 
@@ -47,6 +76,21 @@ QImage toIndexed(const QImage& image)
 QImage ImgLst::image(int index) const
 {
     return index >= 0 && index < count() ? m_images[static_cast<std::size_t>(index)] : QImage();
+}
+
+QImage ImgLst::image(int index, const QSize& pixels) const
+{
+    const QImage original = image(index);
+    if (original.isNull() || original.size() == pixels || pixels.isEmpty())
+        return original;
+    if (m_editions.size() >= kMostEditions)
+        m_editions.clear();
+    Edition& edition = m_editions[{pixels.width(), pixels.height()}];
+    edition.resize(m_images.size());
+    QImage& found = edition[static_cast<std::size_t>(index)];
+    if (found.isNull())
+        fillEdition(edition, index, pixels);
+    return found;
 }
 
 QSize ImgLst::pixelSize(int height) const
@@ -58,37 +102,78 @@ QSize ImgLst::pixelSize(int height) const
 
 void ImgLst::append(const QImage& image)
 {
-    QImage kept = m_depth == Depth::Indexed8
-                      ? toIndexed(image)
-                      : image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
-    // A picture of more pixels than the list's size is drawn at that size, as sharp as the screen
-    // allows.
-    const double tooHigh = static_cast<double>(kept.height()) / std::max(m_size.height(), 1);
-    const double tooWide = static_cast<double>(kept.width()) / std::max(m_size.width(), 1);
-    kept.setDevicePixelRatio(std::max({1.0, tooHigh, tooWide}));
-    m_images.push_back(std::move(kept));
+    m_images.push_back(kept(image));
 }
 
-void ImgLst::appendStrip(const QImage& strip, COLORREF mask)
+void ImgLst::appendStrip(const QImage& strip, COLORREF mask, Redraw redraw)
 {
-    const QSize cell = pixelSize(strip.height());
-    if (strip.isNull() || cell.isEmpty())
-        return;
-    QImage masked = strip.convertToFormat(QImage::Format_ARGB32);
-    applyMask(masked, mask);
-    for (int x = 0; x + cell.width() <= masked.width(); x += cell.width())
-        append(masked.copy(QRect({x, 0}, cell)));
+    const int first = count();
+    for (const QImage& picture : cut(strip, pixelSize(strip.height()), mask))
+        append(picture);
+    m_strips.push_back({first, count() - first, mask, std::move(redraw)});
 }
 
 void ImgLst::draw(QPainter& painter, int index, const QPoint& at) const
 {
-    if (index < 0 || index >= count())
+    const QImage original = image(index);
+    if (original.isNull())
         return;
-    const QImage& picture = m_images[static_cast<std::size_t>(index)];
-    const bool wasSmooth = painter.testRenderHint(QPainter::SmoothPixmapTransform);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawImage(at, picture);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform, wasSmooth);
+    const QTransform device = painter.deviceTransform();
+    const QSize place = placeOf(original, device.m11(), device.m22());
+    if (device.type() > QTransform::TxScale || place.isEmpty() || place.height() > kHighest) {
+        const bool wasSmooth = painter.testRenderHint(QPainter::SmoothPixmapTransform);
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.drawImage(QRect(at, placeOf(original, 1, 1)), original);
+        painter.setRenderHint(QPainter::SmoothPixmapTransform, wasSmooth);
+        return;
+    }
+    // Pixel by pixel, whatever lies between the painter's co-ordinates and the device's.
+    const QPointF corner = device.map(QPointF(at));
+    const QTransform world = painter.worldTransform();
+    const QTransform below = world.inverted() * device;
+    painter.setWorldTransform(QTransform::fromTranslate(qRound(corner.x()), qRound(corner.y()))
+                              * below.inverted());
+    painter.drawImage(QPoint(0, 0), image(index, place));
+    painter.setWorldTransform(world);
+}
+
+QImage ImgLst::kept(const QImage& image) const
+{
+    return m_depth == Depth::Indexed8 ? toIndexed(image)
+                                      : image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+}
+
+/// How many pixels a picture takes at a scale: imageSize at most, as it is where it is smaller.
+QSize ImgLst::placeOf(const QImage& image, double scaleX, double scaleY) const
+{
+    const double tooHigh = static_cast<double>(image.height()) / std::max(m_size.height(), 1);
+    const double tooWide = static_cast<double>(image.width()) / std::max(m_size.width(), 1);
+    const double ratio = std::max({1.0, tooHigh, tooWide});
+    return {qRound(image.width() / ratio * scaleX), qRound(image.height() / ratio * scaleY)};
+}
+
+void ImgLst::fillEdition(Edition& edition, int index, const QSize& pixels) const
+{
+    const auto strip = std::find_if(m_strips.begin(), m_strips.end(), [index](const Strip& s) {
+        return index >= s.first && index < s.first + s.count;
+    });
+    if (strip != m_strips.end() && strip->redraw)
+        redrawStrip(edition, *strip, pixels);
+    QImage& picture = edition[static_cast<std::size_t>(index)];
+    if (picture.isNull())
+        picture = kept(image(index)
+                           .convertToFormat(QImage::Format_ARGB32_Premultiplied)
+                           .scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+}
+
+/// All pictures of a strip, if it can be redrawn with as many.
+void ImgLst::redrawStrip(Edition& edition, const Strip& strip, const QSize& pixels) const
+{
+    const std::vector<QImage> pictures = cut(strip.redraw(pixels), pixels, strip.mask);
+    if (static_cast<int>(pictures.size()) != strip.count)
+        return;
+    std::transform(pictures.begin(), pictures.end(), edition.begin() + strip.first,
+                   [this](const QImage& picture) { return kept(picture); });
 }
 
 } // namespace condtree

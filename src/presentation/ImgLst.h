@@ -5,6 +5,9 @@
 #include <QImage>
 #include <QSize>
 
+#include <functional>
+#include <map>
+#include <utility>
 #include <vector>
 
 class QPainter;
@@ -12,12 +15,15 @@ class QPoint;
 
 namespace condtree {
 
-/// A list of pictures of one size, reached by index. The pictures may hold more pixels than the
-/// size says, for screens with several pixels a point.
+/// A list of pictures of one size, reached by index, each of them kept for the resolutions at which
+/// it is drawn: sharp at all of them where the pictures' source draws them anew.
 class ImgLst {
 public:
     /// How pictures are kept: 8 bits a pixel or 32.
     enum class Depth { Indexed8, Colour32 };
+
+    /// Makes a strip again for pictures of so many pixels; a null image where it cannot.
+    using Redraw = std::function<QImage(const QSize& cell)>;
 
     /// imageSize in device-independent pixels.
     explicit ImgLst(const QSize& imageSize, Depth depth = Depth::Colour32)
@@ -28,8 +34,11 @@ public:
 
     [[nodiscard]] QSize imageSize() const { return m_size; }
     [[nodiscard]] int count() const { return static_cast<int>(m_images.size()); }
-    /// A null image for an index outside the list.
+    /// A picture as it was appended; a null image for an index outside the list.
     [[nodiscard]] QImage image(int index) const;
+    /// A picture for a place of so many pixels: redrawn, else fitted to it. A null image for an
+    /// index outside the list.
+    [[nodiscard]] QImage image(int index, const QSize& pixels) const;
 
     /// The size of a picture that is so many pixels high: imageSize, enlarged where height is more.
     [[nodiscard]] QSize pixelSize(int height) const;
@@ -37,16 +46,35 @@ public:
     /// Appends one picture.
     void append(const QImage& image);
     /// Cuts a strip into pictures, pixelSize of its height each, from the left, and appends them;
-    /// what is left over at the right is ignored. Pixels of the mask colour become transparent.
-    void appendStrip(const QImage& strip, COLORREF mask);
-    /// Draws a picture with its top left corner at a point, reduced to imageSize where it is
-    /// larger; an index outside the list draws nothing. Leaves the painter as it was.
+    /// what is left over at the right is ignored. Pixels of the mask colour become transparent,
+    /// then and whenever the strip is redrawn.
+    void appendStrip(const QImage& strip, COLORREF mask, Redraw redraw = {});
+    /// Draws a picture with its top left corner at a point, with as many pixels as imageSize has on
+    /// the painter's device, each on one of the device's; an index outside the list draws nothing.
+    /// Leaves the painter as it was.
     void draw(QPainter& painter, int index, const QPoint& at) const;
 
 private:
+    struct Strip {
+        int first;
+        int count;
+        COLORREF mask;
+        Redraw redraw;
+    };
+    /// Pictures of one size in pixels; null as long as nobody has asked.
+    using Edition = std::vector<QImage>;
+
+    [[nodiscard]] QImage kept(const QImage& image) const;
+    [[nodiscard]] QSize placeOf(const QImage& image, double scaleX, double scaleY) const;
+    void fillEdition(Edition& edition, int index, const QSize& pixels) const;
+    void redrawStrip(Edition& edition, const Strip& strip, const QSize& pixels) const;
+
     QSize m_size;
     Depth m_depth;
-    std::vector<QImage> m_images;
+    Edition m_images;
+    std::vector<Strip> m_strips;
+    // Asking for a picture in other pixels changes nothing that anyone can see.
+    mutable std::map<std::pair<int, int>, Edition> m_editions;
 };
 
 } // namespace condtree

@@ -1,5 +1,6 @@
 #include "RowPainter.h"
 
+#include <condtree/presentation/FittedTexts.h>
 #include <condtree/presentation/ImgLst.h>
 #include <condtree/presentation/RowStyle.h>
 
@@ -44,14 +45,23 @@ QString shownText(const CString& text)
 
 class Executor {
 public:
-    Executor(QPainter& painter, const ImgLst& images)
+    Executor(QPainter& painter, const ImgLst& images, FittedTexts& texts)
         : m_painter(painter)
         , m_images(images)
+        , m_texts(texts)
         , m_metrics(painter.fontMetrics())
     {
     }
 
     void operator()(const FillPrimitive& fill) const { fillArea(fill.rect, fill.colour); }
+
+    void operator()(const TintPrimitive& tint) const
+    {
+        QColor colour = toQColor(tint.colour);
+        colour.setAlpha(tint.alpha);
+        if (const QRect area = toQRect(tint.rect); !area.isEmpty())
+            m_painter.fillRect(area, colour);
+    }
 
     void operator()(const FramePrimitive& frame) const
     {
@@ -82,30 +92,24 @@ public:
         const QRect rect = toQRect(text.rect);
         if (rect.isEmpty() || text.text.isEmpty())
             return;
-        const QString shown = fitted(shownText(text.text), rect.width(), text.format);
+        const bool isElided = (text.format & kTextEndEllipsis) != 0;
+        const FittedText shown =
+            m_texts.fit(m_painter, shownText(text.text), rect.width(), isElided);
         const bool isCentred = (text.format & kTextVerticallyCentred) != 0;
         const int above = isCentred ? (rect.height() - m_metrics.height()) / 2 : 0;
         const QPoint at(rect.left(), rect.top() + above + m_metrics.ascent());
         // A clip costs more than the text, and a text that fits needs none.
-        if (above >= 0 && m_metrics.horizontalAdvance(shown) <= rect.width()) {
-            m_painter.drawText(at, shown);
+        if (above >= 0 && shown.width <= rect.width()) {
+            m_painter.drawText(at, shown.text);
             return;
         }
         m_painter.save();
         m_painter.setClipRect(rect, Qt::IntersectClip);
-        m_painter.drawText(at, shown);
+        m_painter.drawText(at, shown.text);
         m_painter.restore();
     }
 
 private:
-    [[nodiscard]] QString fitted(const QString& text, int width, unsigned format) const
-    {
-        const bool isElided = (format & kTextEndEllipsis) != 0;
-        if (!isElided || m_metrics.horizontalAdvance(text) <= width)
-            return text;
-        return m_metrics.elidedText(text, Qt::ElideRight, width);
-    }
-
     /// Much faster than lines of a pen, and crisp whatever the painter's hints.
     void fillArea(const RECT& rect, COLORREF colour) const
     {
@@ -127,14 +131,16 @@ private:
 
     QPainter& m_painter;
     const ImgLst& m_images;
+    FittedTexts& m_texts;
     QFontMetrics m_metrics;
 };
 
 } // namespace
 
-void paintRow(QPainter& painter, const RowPicture& picture, const ImgLst& operatorImages)
+void paintRow(QPainter& painter, const RowPicture& picture, const ImgLst& operatorImages,
+              FittedTexts& texts)
 {
-    const Executor executor(painter, operatorImages);
+    const Executor executor(painter, operatorImages, texts);
     for (const RowPrimitive& primitive : picture)
         std::visit(executor, primitive);
 }

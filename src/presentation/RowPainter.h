@@ -6,6 +6,7 @@ class QPainter;
 
 namespace condtree {
 
+class FittedTexts;
 class ImgLst;
 
 /// Executes a picture with the painter's font and pen colour; knows nothing of rows. Leaves the
@@ -15,6 +16,9 @@ class ImgLst;
 /// rectangle; control characters and line breaks are drawn as blanks, and of a very long text only
 /// the beginning is looked at. Image indices outside the list, and rectangles without area, draw
 /// nothing.
-void paintRow(QPainter& painter, const RowPicture& picture, const ImgLst& operatorImages);
+///
+/// texts remembers what was measured.
+void paintRow(QPainter& painter, const RowPicture& picture, const ImgLst& operatorImages,
+              FittedTexts& texts);
 
 } // namespace condtree

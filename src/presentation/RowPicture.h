@@ -28,6 +28,13 @@ struct FillPrimitive {
     COLORREF colour;
     bool operator==(const FillPrimitive&) const = default;
 };
+/// A colour laid over what is there; alpha is of 255.
+struct TintPrimitive {
+    RECT rect;
+    COLORREF colour;
+    int alpha;
+    bool operator==(const TintPrimitive&) const = default;
+};
 /// A frame of one pixel inside rect.
 struct FramePrimitive {
     RECT rect;
@@ -60,7 +67,7 @@ struct TextPrimitive {
 };
 
 using RowPrimitive = std::variant<FillPrimitive, FramePrimitive, PolylinePrimitive, LinePrimitive,
-                                  ImagePrimitive, TextPrimitive>;
+                                  ImagePrimitive, TextPrimitive, TintPrimitive>;
 /// What is drawn for a row, in order; a whole row needs no heap.
 using RowPicture = QVarLengthArray<RowPrimitive, 10>;
 

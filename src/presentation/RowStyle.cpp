@@ -10,6 +10,8 @@ namespace {
 
 /// The least contrast at which text of ordinary size counts as readable.
 constexpr double kReadableContrast = 4.5;
+/// The same of what is no text.
+constexpr double kVisibleContrast = 3.0;
 
 /// A channel of what is seen where a colour lies on white, linear in light.
 double linearOnWhite(double channel, double alpha)
@@ -40,6 +42,15 @@ QColor toQColor(COLORREF colour)
         return static_cast<int>(colour >> shift & 0xFFU);
     };
     return {channel(0), channel(8), channel(16)};
+}
+
+COLORREF markColour(const QPalette& palette, QPalette::ColorGroup group)
+{
+    const QColor highlight = palette.color(group, QPalette::Highlight);
+    const QColor colour = contrastWithWhite(highlight) < kVisibleContrast
+                              ? palette.color(group, QPalette::Text)
+                              : highlight;
+    return RGB(colour.red(), colour.green(), colour.blue());
 }
 
 QPalette paletteOnWhite(const QPalette& desktop)

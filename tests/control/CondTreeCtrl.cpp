@@ -1,10 +1,13 @@
 #include "ControlFixture.h"
+#include "support/WarningGuard.h"
 
 #include <condtree/control/CondTreeParts.h>
 #include <condtree/presentation/CDPIHelper.h>
 #include <condtree/refdata/Registry.h>
 
 #include <QApplication>
+#include <QFile>
+#include <QIcon>
 #include <QImage>
 #include <QPainter>
 
@@ -139,7 +142,8 @@ TEST_F(CondTreeCtrlTest, RowsCarryThePictureOfTheirKind)
                                                       {1000, 3}}};
     for (const auto& [code, image] : kRows) {
         control->mhAddNode(control->mpoGetNode(TVI_ROOT), newNode(code), true);
-        const auto picture = control->model()->index(0, 0).data(Qt::DecorationRole).value<QImage>();
+        const auto icon = control->model()->index(0, 0).data(Qt::DecorationRole).value<QIcon>();
+        const QImage picture = icon.pixmap(iconSize).toImage();
         ASSERT_EQ(picture.size(), iconSize);
         EXPECT_EQ(picture.pixelColor(10, 12), ColouredIcons::colour(image)) << code;
     }
@@ -180,7 +184,7 @@ TEST_F(CondTreeCtrlTest, MissingPicturesAreNoMessageAndTheRowsAreThere)
     initialize();
     EXPECT_EQ(loaded({record(3, 2, "Author", "a", 1, 100)}),
               "1000 Author | a op=100 arg=1\n" + kEnd);
-    EXPECT_TRUE(control->model()->index(0, 0).data(Qt::DecorationRole).value<QImage>().isNull());
+    EXPECT_FALSE(control->model()->index(0, 0).data(Qt::DecorationRole).isValid());
     EXPECT_TRUE(messages.empty());
 }
 
@@ -221,10 +225,25 @@ TEST_F(CondTreeCtrlTest, AnyLookUpMayShowAMessageDuringWhichTheControlIsDeleted)
 
 TEST_F(CondTreeCtrlTest, PortsThatAreLeftEmptyAreTheRealOnes)
 {
+    // An icon library for the real port to find: it is there, and no module.
+    QFile file(folder.filePath(QStringLiteral("machine.reg")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("Windows Registry Editor Version 5.00\r\n\r\n"
+               "[HKEY_LOCAL_MACHINE\\Software\\Veltrix\\Applications\\Larkspan Enterprise]\r\n"
+               "\"Location\"=\""
+               + folder.path().toUtf8() + "\"\r\n");
+    file.close();
+    QFile module(folder.filePath(QStringLiteral("WfIcons.dll")));
+    ASSERT_TRUE(module.open(QIODevice::WriteOnly));
+    qputenv("CONDTREE_REGISTRY_DIR", folder.path().toUtf8());
+    const ExpectWarning warning(QStringLiteral("WfIcons.dll is not loaded"));
+
     CondTreeCtrl plain(nullptr, Services{});
     plain.mvInitialize(nullptr, 120, KiroVaultType{}, TreeType{});
     plain.mvLoad({});
     EXPECT_EQ(toText(plain), "0 And\n  " + kEnd);
+    EXPECT_EQ(warning.count(), 1);
+    qunsetenv("CONDTREE_REGISTRY_DIR");
 }
 
 // Tree operations

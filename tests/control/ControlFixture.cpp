@@ -68,6 +68,7 @@ Services ControlFixture::services()
                : metric == SM_CYSMICON ? iconSize.height()
                                        : realSystemMetric(metric);
     };
+    ports.cursorPos = [this] { return pointer; };
     ports.bitsPerPixel = [this] { return bitsPerPixel; };
     registry = std::make_shared<RegFileStore>(
         RegFilePaths{folder.filePath(QStringLiteral("user.reg")),

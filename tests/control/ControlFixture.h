@@ -110,6 +110,7 @@ protected:
     std::map<LONG, QString> translations; ///< by text id; the default where there is none
     int bitsPerPixel = 32;
     QSize iconSize{20, 24};
+    POINT pointer{-1000, -1000}; ///< where the pointer is on the screen; nowhere
     std::shared_ptr<ColouredIcons> icons = std::make_shared<ColouredIcons>();
     QTemporaryDir folder;
     std::shared_ptr<RegistryStore> registry; ///< on two files in folder

@@ -234,7 +234,9 @@ TEST_F(ControlWithRealBox, AnotherFailureJoinsTheOpenBox)
 
 TEST_F(ControlWithRealBox, AnotherControlOfTheWindowJoinsTheOpenBox)
 {
-    OpenCtrl second(window.get());
+    Services ports; // the real ones but for the pictures
+    ports.icons = icons;
+    OpenCtrl second(window.get(), ports);
     second.mvInitialize(library.get(), 120, KiroVaultType{}, TreeType{});
     test::duringMessage([&] { control->mbInitUsers(); },
                         [&](QMessageBox& box) {

@@ -38,6 +38,7 @@ protected:
     {
         control->show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(control.get()));
+        control->clearFocus(); // its frame would cover lines
     }
     /// The viewport as it is drawn.
     QImage picture() { return control->viewport()->grab().toImage(); }
@@ -231,8 +232,7 @@ TEST_F(RowDrawing, RowsAreAsHighAsTheResolutionAndTheFontAsk)
     }
 }
 
-// The view's own row comes first (its picture, its branch mark, its selection), the columns over
-// it.
+// The view's own row comes first (its picture, its branch mark), the columns over it.
 TEST_F(RowDrawing, TheColumnsAreDrawnOverTheViewsOwnRow)
 {
     loaded({record(3, 2, "Author", "a", 1, 100)});
@@ -243,10 +243,7 @@ TEST_F(RowDrawing, TheColumnsAreDrawnOverTheViewsOwnRow)
     const QPoint inValue(2 * control->viewport()->width() / 4 + 60, middle);
     const QImage plain = picture();
     EXPECT_EQ(plain.pixelColor(inPicture), ColouredIcons::colour(3));
-    control->setCurrentIndex(at(0));
-    const QImage selected = picture();
-    EXPECT_NE(selected.pixelColor(inPicture), plain.pixelColor(inPicture));
-    EXPECT_EQ(selected.pixelColor(inValue), QColor(Qt::white));
+    EXPECT_EQ(plain.pixelColor(inValue), QColor(Qt::white));
 }
 
 TEST_F(RowDrawing, TheOperatorsPictureIsOfItsListBehindTheFirstBoundary)

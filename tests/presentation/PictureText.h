@@ -24,6 +24,10 @@ namespace condtree::test {
         {
             return QStringLiteral("fill %1 %2").arg(in(p.rect), hex(p.colour));
         }
+        QString operator()(const TintPrimitive& p) const
+        {
+            return QStringLiteral("tint %1 %2 %3").arg(in(p.rect), hex(p.colour)).arg(p.alpha);
+        }
         QString operator()(const FramePrimitive& p) const
         {
             return QStringLiteral("frame %1 %2").arg(in(p.rect), hex(p.colour));

@@ -1,5 +1,6 @@
 #include <condtree/presentation/RowPainter.h>
 
+#include <condtree/presentation/FittedTexts.h>
 #include <condtree/presentation/ImgLst.h>
 
 #include <gtest/gtest.h>
@@ -20,6 +21,12 @@ constexpr COLORREF kBlue = 0x00FF0000;
 constexpr QRgb kBluePixel = 0xFF0000FF;
 constexpr unsigned kFormat = 0x8024;
 
+void paintRow(QPainter& painter, const RowPicture& picture, const ImgLst& images)
+{
+    FittedTexts texts;
+    paintRow(painter, picture, images, texts);
+}
+
 class Sheet {
 public:
     explicit Sheet(int width = 60, int height = 40)
@@ -31,9 +38,11 @@ public:
     Sheet& paint(const RowPicture& picture, const ImgLst& images = ImgLst({16, 16}))
     {
         QPainter painter(&m_image);
-        paintRow(painter, picture, images);
+        paintRow(painter, picture, images, texts);
         return *this;
     }
+
+    FittedTexts texts;
 
     [[nodiscard]] bool isPainted(int x, int y) const { return m_image.pixel(x, y) != kPaper; }
     [[nodiscard]] const QImage& image() const { return m_image; }
@@ -71,6 +80,21 @@ private:
 RowPicture text(const QString& shown, const RECT& rect)
 {
     return {TextPrimitive{shown, rect, kFormat}};
+}
+
+TEST(RowPainter, ATintIsLaidOverWhatIsThere)
+{
+    Sheet sheet;
+    const QImage& image = sheet
+                              .paint({FillPrimitive{{10, 10, 20, 20}, 0x00000000},
+                                      TintPrimitive{{5, 5, 15, 15}, kBlue, 51}})
+                              .image();
+    EXPECT_EQ(image.pixel(4, 5), kPaper);
+    EXPECT_EQ(image.pixel(5, 5), qRgb(204, 204, 255));
+    EXPECT_EQ(image.pixel(12, 12), qRgb(0, 0, 51));
+    EXPECT_EQ(image.pixel(15, 15), qRgb(0, 0, 0));
+    Sheet empty;
+    EXPECT_EQ(empty.paint({TintPrimitive{{15, 15, 5, 5}, kBlue, 51}}).image(), Sheet().image());
 }
 
 TEST(RowPainter, AFillCoversItsRectangleAndNoMore)

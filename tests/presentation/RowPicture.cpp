@@ -47,6 +47,57 @@ std::vector<Primitive> all(const RowPicture& picture)
     return found;
 }
 
+struct OperatorRow {
+    LONG op;
+    int image;
+    const char* name;
+};
+
+/// Every operator, with its picture among those of the four strips, counted through.
+const std::vector<OperatorRow> kOperators{
+    {100, 0, "String Equal To"},         {101, 1, "String Not Equal To"},
+    {102, 2, "String Less Than"},        {103, 3, "String Bigger Than"},
+    {104, 4, "String Less or Equal"},    {105, 5, "String Bigger or Equal"},
+    {106, 6, "String Contains"},         {107, 7, "String Does Not Contain"},
+    {108, 8, "String Pattern"},          {120, 9, "Number Equal To"},
+    {121, 10, "Number Not Equal To"},    {122, 11, "Number Less Than"},
+    {123, 12, "Number Bigger Than"},     {124, 13, "Number Less or Equal"},
+    {125, 14, "Number Bigger or Equal"}, {130, 18, "Date Equal To"},
+    {131, 19, "Date Not Equal To"},      {132, 20, "Date Less Than"},
+    {133, 21, "Date Bigger Than"},       {134, 22, "Date Less or Equal"},
+    {135, 23, "Date Bigger or Equal"},   {139, 27, "Binary Equal To"},
+};
+
+TEST(RowPicture, EveryOperatorHasItsPictureBehindTheFirstSeparatorAndItsNameBehindThat)
+{
+    const StringSource strings = [](LONG id, const char16_t* key, const char16_t*,
+                                    const char16_t* defaultText) {
+        for (const OperatorRow& row : kOperators) {
+            if (CString::fromUtf16(key) == QStringLiteral("OpName") && row.op == id)
+                return QString::fromUtf8(row.name);
+        }
+        return CString::fromUtf16(defaultText);
+    };
+    EXPECT_EQ(kOperators.size(), 22U);
+    for (const LONG code : {1000, 3}) { // a card variable and a fixed kind
+        for (const OperatorRow& row : kOperators) {
+            const std::string expected = R"(
+fill (47,20)-(608,43) FFFFFF
+text (50,20)-(157,43) 8024 'Name'
+frame (47,20)-(608,43) DCA0A0
+line (157,21)(157,43) DCA0A0
+image )" + std::to_string(row.image) + R"( (160,20)
+text (179,20)-(307,43) 8024 ')" + row.name
+                                         + R"('
+line (307,21)(307,43) DCA0A0
+text (310,20)-(457,43) 8024 'Value'
+line (457,21)(457,43) DCA0A0
+text (460,20)-(608,43) 8024 'Extra')";
+            EXPECT_EQ(toText(describeRow(condition(code, row.op), kLayout, strings)), expected);
+        }
+    }
+}
+
 TEST(RowPicture, AConditionOfTheTopLevelIsFourColumnsInAFrame)
 {
     EXPECT_EQ(toText(describeRow(condition(1000, 106), kLayout, knownTexts)), R"(

@@ -107,4 +107,22 @@ TEST(RowStyle, EachGroupIsJudgedByItself)
     EXPECT_EQ(palette.color(QPalette::Disabled, QPalette::Text), QColor(Qt::black));
 }
 
+TEST(RowStyle, TheMarkIsTheHighlightWhereItStandsOutOnWhite)
+{
+    QPalette palette;
+    palette.setColor(QPalette::Active, QPalette::Text, QColor(10, 20, 30));
+    palette.setColor(QPalette::Inactive, QPalette::Text, QColor(40, 50, 60));
+    const auto markOf = [&](const QColor& highlight) {
+        palette.setColor(QPalette::Active, QPalette::Highlight, highlight);
+        return markColour(palette, QPalette::Active);
+    };
+    EXPECT_EQ(markOf(QColor(0, 120, 215)), 0x00D77800U);
+    // Grey reaches the contrast of 3 between 148 and 149.
+    EXPECT_EQ(markOf(QColor(148, 148, 148)), 0x00949494U);
+    EXPECT_EQ(markOf(QColor(149, 149, 149)), 0x001E140AU);
+    EXPECT_EQ(markOf(QColor(255, 255, 0)), 0x001E140AU);
+    palette.setColor(QPalette::Inactive, QPalette::Highlight, Qt::white);
+    EXPECT_EQ(markColour(palette, QPalette::Inactive), 0x003C3228U);
+}
+
 } // namespace

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <condtree/presentation/RowPicture.h>
+
+namespace condtree {
+
+/// What is special about a row at the moment.
+struct RowMarks {
+    bool isSelected = false;
+    bool isHovered = false;
+    /// The keyboard acts on it.
+    bool isFocused = false;
+};
+
+/// Describes what is laid over a finished row, from the viewport's left edge to its right one: a
+/// tint and a bar in front where it is selected, a paler tint under the pointer, a frame where the
+/// focus is. Its columns keep their colours and stay readable.
+[[nodiscard]] RowPicture describeMarks(const RECT& row, const RowMarks& marks, COLORREF colour);
+
+} // namespace condtree
