@@ -185,6 +185,61 @@ void Draw(benchmark::State& state)
     }
 }
 
+/// As many conditions as the window has room for, with texts of so many words in each column.
+std::vector<TransCond> windowOf(int words)
+{
+    std::vector<TransCond> records(27);
+    int number = 0;
+    const auto text = [&](const QString& word) {
+        return (word + QLatin1Char(' ')).repeated(words) + QString::number(++number);
+    };
+    for (TransCond& record : records) {
+        record.lRowKind = RowKindTop;
+        record.lCondType = 2;
+        record.oName = text(QStringLiteral("Author"));
+        record.oValue = text(QStringLiteral("value"));
+        record.oExtra = text(QStringLiteral("remark"));
+        record.lArgType = 1;
+        record.lOperator = 106;
+    }
+    return records;
+}
+
+template <class View>
+void repaint(View& view, QImage& image)
+{
+    QPainter painter(&image);
+    view.viewport()->render(&painter);
+}
+
+// The same rows again and again. Bare: a stock tree of the same four texts a row. With many words
+// texts are cut, in either.
+void Repaint(benchmark::State& state)
+{
+    const auto records = windowOf(static_cast<int>(state.range(0)));
+    const auto manager = makeManager();
+    CondTreeCtrl control;
+    control.mvInitialize(manager.get(), 120, {}, {});
+    open(control);
+    control.mvLoad(records);
+    PlainTree model;
+    QTreeView plain;
+    setUpPlain(plain, model);
+    open(plain);
+    model.load(records);
+    QCoreApplication::processEvents();
+
+    QImage image(kWidth, kHeight, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
+    repaint(plain, image);
+    repaint(control, image);
+    Comparison comparison(state);
+    for (auto _ : state) {
+        comparison.bare("tree", [&] { repaint(plain, image); });
+        comparison.control([&] { repaint(control, image); });
+    }
+}
+
 void sizes(benchmark::internal::Benchmark* benchmark)
 {
     benchmark->RangeMultiplier(10)
@@ -196,6 +251,8 @@ void sizes(benchmark::internal::Benchmark* benchmark)
 BENCHMARK(Load)->Apply(sizes);
 BENCHMARK(Save)->Apply(sizes);
 BENCHMARK(Draw)->Apply(sizes);
+BENCHMARK(Repaint)->ArgName("words")->Arg(1)->Arg(9)->UseManualTime()->Unit(
+    benchmark::kMillisecond);
 
 } // namespace
 
