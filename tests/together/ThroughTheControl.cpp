@@ -32,11 +32,27 @@ const QString kLockedText =
                    "another user.\nThis can sometimes happen during high workload on the "
                    "database.\nUsually this is solved if you try the operation again.");
 
+/// The pictures are not what these tests are about.
+class NoIcons final : public IconLibrary {
+public:
+    IconResult loadIcon(const CString&, int, IconPixels&) override { return IconResult::NoLibrary; }
+    IconResult loadImage(const CString&, int, IconPixels&) override
+    {
+        return IconResult::NoLibrary;
+    }
+};
+
+Services withoutIcons(Services services)
+{
+    services.icons = std::make_shared<NoIcons>();
+    return services;
+}
+
 /// A host's control: it reaches the loaders, and connects.
 class HostCtrl final : public CondTreeCtrl {
 public:
     explicit HostCtrl(const Services& services)
-        : CondTreeCtrl(nullptr, services)
+        : CondTreeCtrl(nullptr, withoutIcons(services))
         , m_services(services)
     {
     }
