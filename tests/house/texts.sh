@@ -16,7 +16,7 @@ mapfile -t all < <(sources src libs)
 # Files whose sentences no user reads, or reads in English in every language: data of the sample, log lines about
 # the settings files and the database, messages of ranges, versions of other products, a tool of the build.
 english="Sample.cpp SampleConditions.cpp SamplePeople.cpp SampleWorkflows.cpp
-    RegFile.cpp RegFileParser.cpp Database.cpp Migrations.cpp Transaction.cpp
+    RegFile.cpp RegFileParser.cpp Database.cpp Migrations.cpp Transaction.cpp ElfCheck.cpp ModuleTrust.cpp WfIconLibrary.cpp
     ResultFallbacks.cpp SystemRequirements.cpp ContactSheet.cpp"
 # Sentences that no user reads, in files that have others: the names of keys and of the product, log lines,
 # complaints of the compiler, what an exception says, and SpSaveReport::message, which is English by its contract.
