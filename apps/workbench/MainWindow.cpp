@@ -138,9 +138,11 @@ void MainWindow::makeLayout()
     splitter->setChildrenCollapsible(false);
     splitter->addWidget(side);
     splitter->addWidget(m_editor);
-    splitter->setStretchFactor(0, 1);
-    splitter->setStretchFactor(1, 4);
-    splitter->setSizes({200, 800});
+    // The list keeps the width of its names; the condition takes what a larger window brings.
+    splitter->setStretchFactor(0, 0);
+    splitter->setStretchFactor(1, 1);
+    const int character = fontMetrics().averageCharWidth();
+    splitter->setSizes({character * 44, character * 181});
     setCentralWidget(splitter);
 }
 
