@@ -3,6 +3,7 @@
 #include "DateElements.h"
 #include "DateTokens.h"
 
+#include <algorithm>
 #include <array>
 #include <span>
 
@@ -22,14 +23,27 @@ bool isFiller(const DateToken& token)
     return token.word.isFiller && token.word.month == 0 && !token.word.isWeekday;
 }
 
+/// Whether day, month and year are there.
+bool isWhole(std::span<const DateToken> elements)
+{
+    const auto numbers = std::ranges::count(elements, Kind::Number, &DateToken::kind);
+    const bool hasMonth =
+        std::ranges::any_of(elements, [](const DateToken& token) { return token.word.month != 0; });
+    return numbers == 3 || (numbers == 2 && hasMonth);
+}
+
+constexpr int kHours = 24;
+constexpr int kMinutes = 60;
+
 constexpr std::uint16_t field(int value)
 {
     return static_cast<std::uint16_t>(value);
 }
 
-class DateReader final {
+class LocaleDateReader final {
 public:
-    DateReader(std::span<const DateToken> tokens, const LocaleDateRules& rules, int currentYear)
+    LocaleDateReader(std::span<const DateToken> tokens, const LocaleDateRules& rules,
+                     int currentYear)
         : m_tokens(tokens)
         , m_rules(rules)
         , m_currentYear(currentYear)
@@ -39,6 +53,8 @@ public:
     /// Date, date and time, time, or time and date.
     std::optional<SYSTEMTIME> read()
     {
+        if (isStopGroupAlone())
+            return std::nullopt;
         const bool timeLeads = startsTime();
         if (timeLeads && !readTime())
             return std::nullopt;
@@ -66,20 +82,60 @@ private:
         return is(Kind::Word, ahead) && m_tokens[m_at + ahead].word.half != DayHalf::None;
     }
 
+    [[nodiscard]] bool isTimeFiller(std::size_t ahead) const
+    {
+        return is(Kind::Word, ahead) && m_tokens[m_at + ahead].word.isTimeFiller;
+    }
+
+    [[nodiscard]] bool isTimeJoint(std::size_t ahead) const
+    {
+        return is(Kind::TimeSeparator, ahead)
+               || (is(Kind::Word, ahead) && m_tokens[m_at + ahead].word.joinsTime);
+    }
+
+    /// "14.07" where both dates and times are written so.
+    [[nodiscard]] bool isStopGroup() const
+    {
+        return m_rules.stopSeparatesDates && m_rules.stopSeparatesTimes && is(Kind::Number)
+               && is(Kind::Stop, 1) && is(Kind::Number, 2);
+    }
+
+    /// Such a group is all that there is, and could be a time as well as a date.
+    [[nodiscard]] bool isStopGroupAlone() const
+    {
+        return isStopGroup() && m_tokens.size() == 3 && m_tokens[0].number < kHours
+               && m_tokens[2].number < kMinutes;
+    }
+
     /// A number alone is none: a separator or a half of the day makes it one.
     [[nodiscard]] bool startsTime() const
     {
-        if (m_rules.halfLeads && isDayHalf() && is(Kind::Number, 1))
+        std::size_t at = behindTimeFillers(0);
+        if (m_rules.halfLeads && isDayHalf(at) && is(Kind::Number, behindTimeFillers(at + 1)))
             return true;
-        return is(Kind::Number) && (is(Kind::TimeSeparator, 1) || isDayHalf(1));
+        return is(Kind::Number, at) && (isTimeJoint(at + 1) || isDayHalf(at + 1));
     }
+
+    [[nodiscard]] std::size_t behindTimeFillers(std::size_t ahead) const
+    {
+        while (isTimeFiller(ahead))
+            ++ahead;
+        return ahead;
+    }
+
+    void skipTimeFillers() { m_at += behindTimeFillers(0); }
 
     bool readTime()
     {
+        skipTimeFillers();
         DayHalf half = takeDayHalf();
+        skipTimeFillers();
+        const bool hasStops = isStopGroup();
         std::array<int, 3> parts{};
         parts[0] = m_tokens[m_at++].number;
-        for (std::size_t i = 1; i < parts.size() && is(Kind::TimeSeparator); ++i) {
+        for (std::size_t i = 1; i < parts.size(); ++i) {
+            if (hasStops ? !is(Kind::Stop) : !isTimeJoint(0))
+                break;
             ++m_at;
             if (!is(Kind::Number))
                 return false;
@@ -87,8 +143,14 @@ private:
         }
         if (half == DayHalf::None)
             half = takeDayHalf();
+        skipTimeFillers();
+        return setTime(parts, half);
+    }
+
+    bool setTime(std::array<int, 3> parts, DayHalf half)
+    {
         auto [hour, minute, second] = parts;
-        if (hour > 23 || minute > 59 || second > 59)
+        if (hour >= kHours || minute >= kMinutes || second >= kMinutes)
             return false;
         if (half == DayHalf::Am && hour == 12)
             hour = 0;
@@ -108,6 +170,8 @@ private:
         DateTokens elements;
         bool isBehindSeparator = true;
         for (; !atEnd() && !startsTime(); ++m_at) {
+            if (isStopTimeBehind(elements, isBehindSeparator))
+                break;
             const DateToken& token = m_tokens[m_at];
             const bool isSeparator = isDateSeparator(token.kind);
             const bool isSecond = isSeparator && isBehindSeparator && !isCommaBehindClosingStop();
@@ -125,6 +189,14 @@ private:
         m_fields.wMonth = field(date.month());
         m_fields.wDay = field(date.day());
         return date.isValid();
+    }
+
+    /// As in "28.12.2024 14.07": nothing but a blank or a comma joins it to a date that is whole.
+    [[nodiscard]] bool isStopTimeBehind(std::span<const DateToken> elements,
+                                        bool isBehindSeparator) const
+    {
+        return isStopGroup() && isWhole(elements)
+               && (!isBehindSeparator || m_tokens[m_at - 1].kind == Kind::Comma);
     }
 
     [[nodiscard]] bool isBehindClosingStop() const
@@ -165,8 +237,11 @@ std::optional<SYSTEMTIME> calendarFieldsOf(QStringView text, const LocaleDateRul
                                            int currentYear)
 {
     const qsizetype null = text.indexOf(QChar::Null);
-    const auto tokens = dateTokensOf(null < 0 ? text : text.first(null), rules);
-    return tokens ? DateReader(*tokens, rules, currentYear).read() : std::nullopt;
+    if (null >= 0)
+        text = text.first(null);
+    const QString folded = mayHoldDateWords(text) ? rules.folded(text) : QString();
+    const auto tokens = dateTokensOf(folded.isNull() ? text : folded, rules);
+    return tokens ? LocaleDateReader(*tokens, rules, currentYear).read() : std::nullopt;
 }
 
 } // namespace condtree

@@ -23,6 +23,8 @@ void merge(DateWord& into, const DateWord& other)
         into.half = other.half;
     into.isWeekday |= other.isWeekday;
     into.isFiller |= other.isFiller;
+    into.isTimeFiller |= other.isTimeFiller;
+    into.joinsTime |= other.joinsTime;
 }
 
 class DateTokenizer final {
@@ -85,6 +87,7 @@ private:
         qsizetype length = 0;
         DateToken token{Kind::Word};
         for (const auto& [name, meaning] : m_rules.words) {
+            // What has no lower case of its own ("ς") may still be the same letter.
             if (name.size() < length || !m_rest.startsWith(name, Qt::CaseInsensitive))
                 continue;
             if (name.size() > length)
@@ -119,6 +122,14 @@ private:
 };
 
 } // namespace
+
+bool mayHoldDateWords(QStringView text)
+{
+    static constexpr QStringView kSeparators = u"-/,.:";
+    return std::any_of(text.begin(), text.end(), [](QChar unit) {
+        return !isDigit(unit) && !unit.isSpace() && !kSeparators.contains(unit);
+    });
+}
 
 std::optional<DateTokens> dateTokensOf(QStringView text, const LocaleDateRules& rules)
 {

@@ -23,8 +23,12 @@ inline constexpr qsizetype kMostDateTokens = 24;
 
 using DateTokens = QVarLengthArray<DateToken, kMostDateTokens>;
 
-/// Cuts a text into numbers, words of the locale and separators; blanks only end a number. A run of
-/// separators of times is one. None when there is anything else in the text.
+/// False for a text that is cut the same way without the words of a locale.
+[[nodiscard]] bool mayHoldDateWords(QStringView text);
+
+/// Cuts a text, folded as the rules have it, into numbers, words of the locale and separators;
+/// blanks only end a number. A run of separators of times is one. None when there is anything else
+/// in the text.
 [[nodiscard]] std::optional<DateTokens> dateTokensOf(QStringView text,
                                                      const LocaleDateRules& rules);
 

@@ -1,6 +1,7 @@
 #include "LocaleDate.h"
 
 #include "DateGrammar.h"
+#include "DateTokens.h"
 
 #include <condtree/platform/Automation.h>
 
@@ -11,8 +12,14 @@ namespace condtree {
 
 bool ParseDateByLocale(const CString& text, double& result, const QLocale& locale)
 {
-    const auto fields =
-        calendarFieldsOf(text, localeDateRules(locale), QDate::currentDate().year());
+    return ParseDateByLocale(text, result, locale, QDate::currentDate().year());
+}
+
+bool ParseDateByLocale(const CString& text, double& result, const QLocale& locale, int currentYear)
+{
+    const LocaleDateRules rules =
+        mayHoldDateWords(text) ? localeDateRules(locale) : wordlessDateRules(locale);
+    const auto fields = calendarFieldsOf(text, rules, currentYear);
     return fields && SystemTimeToVariantTime(*fields, result);
 }
 

@@ -11,6 +11,11 @@ namespace condtree {
 [[nodiscard]] CONDTREE_EXPORT bool ParseDateByLocale(const CString& text, double& result,
                                                      const QLocale& locale);
 
+/// The same with the year of a day that is written without one, for hosts with a clock of their
+/// own.
+[[nodiscard]] CONDTREE_EXPORT bool ParseDateByLocale(const CString& text, double& result,
+                                                     const QLocale& locale, int currentYear);
+
 /// The same in the user's locale.
 [[nodiscard]] CONDTREE_EXPORT bool ParseDateByLocale(const CString& text, double& result);
 

@@ -1,6 +1,5 @@
 #include "LocaleDateRules.h"
 
-#include <QLocale>
 #include <QStringList>
 
 #include <algorithm>
@@ -12,15 +11,19 @@ namespace {
 
 using Words = std::vector<NamedDateWord>;
 
-/// A field of a date format ("yyyy"), or what stands between two fields, without its quotes.
+constexpr QStringView kDateFields = u"dMy";
+constexpr QStringView kTimeFields = u"hHmszAaPpt";
+
+constexpr Qt::CaseSensitivity kAnyCase = Qt::CaseInsensitive;
+
+/// A field of a format ("yyyy"), or what stands between two fields, without its quotes.
 struct FormatPart {
     bool isField;
     QString text;
 };
 
-std::vector<FormatPart> partsOf(QStringView format)
+std::vector<FormatPart> partsOf(QStringView format, QStringView fields)
 {
-    constexpr QStringView kFields = u"dMy";
     std::vector<FormatPart> parts;
     bool isQuoted = false;
     for (const QChar unit : format) {
@@ -28,7 +31,7 @@ std::vector<FormatPart> partsOf(QStringView format)
             isQuoted = !isQuoted;
             continue;
         }
-        const bool isField = !isQuoted && kFields.contains(unit);
+        const bool isField = !isQuoted && fields.contains(unit);
         const bool continues = !parts.empty() && parts.back().isField == isField
                                && (!isField || parts.back().text.back() == unit);
         if (continues)
@@ -72,21 +75,56 @@ bool hasStopBehindField(const std::vector<FormatPart>& parts)
     });
 }
 
-/// Words of a format that stand between its fields, but for those that touch the number before.
-void addFillers(Words& words, const std::vector<FormatPart>& parts)
+/// Whether a part stands between hour and minute.
+bool isInTime(const std::vector<FormatPart>& parts, std::size_t at)
+{
+    return at > 0 && at + 1 < parts.size() && parts[at - 1].text.startsWith(u'h', kAnyCase)
+           && parts[at + 1].text.startsWith(u'm');
+}
+
+bool hasStopInTime(const std::vector<FormatPart>& parts)
+{
+    for (std::size_t i = 0; i < parts.size(); ++i) {
+        if (isInTime(parts, i) && parts[i].text == u".")
+            return true;
+    }
+    return false;
+}
+
+/// The words of what stands between two fields, but for one that touches the number before.
+QStringList wordsOf(const FormatPart& part, bool isBehindNumber)
+{
+    QStringList pieces = part.text.simplified().split(u' ');
+    if (isBehindNumber && !part.text.front().isSpace())
+        pieces.removeFirst();
+    QStringList words;
+    for (QString& piece : pieces) {
+        if (piece.endsWith(u','))
+            piece.chop(1);
+        if (!piece.isEmpty() && piece.front().isLetter())
+            words.push_back(piece);
+    }
+    return words;
+}
+
+void addDateFillers(Words& words, const std::vector<FormatPart>& parts)
 {
     for (std::size_t i = 0; i < parts.size(); ++i) {
         if (parts[i].isField)
             continue;
-        QStringList pieces = parts[i].text.simplified().split(u' ');
-        if (i > 0 && isNumber(parts[i - 1]) && !parts[i].text.front().isSpace())
-            pieces.removeFirst();
-        for (QString& piece : pieces) {
-            if (piece.endsWith(u','))
-                piece.chop(1);
-            if (!piece.isEmpty() && piece.front().isLetter())
-                words.push_back({piece, {.isFiller = true}});
-        }
+        for (const QString& word : wordsOf(parts[i], i > 0 && isNumber(parts[i - 1])))
+            words.push_back({word, {.isFiller = true}});
+    }
+}
+
+void addTimeFillers(Words& words, const std::vector<FormatPart>& parts)
+{
+    for (std::size_t i = 0; i < parts.size(); ++i) {
+        if (parts[i].isField)
+            continue;
+        const bool joins = isInTime(parts, i);
+        for (const QString& word : wordsOf(parts[i], i > 0 && parts[i - 1].isField))
+            words.push_back({word, {.isTimeFiller = !joins, .joinsTime = joins}});
     }
 }
 
@@ -114,16 +152,41 @@ void addDayHalves(Words& words, const QLocale& locale)
 
 } // namespace
 
+QString LocaleDateRules::folded(QStringView text) const
+{
+    QString plain = text.toString().normalized(QString::NormalizationForm_C);
+    for (QChar& unit : plain) {
+        if (unit.isSpace())
+            unit = u' ';
+    }
+    return locale.toLower(plain);
+}
+
+LocaleDateRules wordlessDateRules(const QLocale& locale)
+{
+    const auto date = partsOf(locale.dateFormat(QLocale::ShortFormat), kDateFields);
+    const QString timeForm = locale.timeFormat(QLocale::ShortFormat);
+    const auto time = partsOf(timeForm, kTimeFields);
+    return {.order = orderOf(date),
+            .stopSeparatesDates = hasStopBehindField(date),
+            .stopClosesDates = isClosedByStop(date),
+            .stopSeparatesTimes = hasStopInTime(time),
+            .halfLeads = timeForm.startsWith(u'a', kAnyCase),
+            .words = {},
+            .locale = locale};
+}
+
 LocaleDateRules localeDateRules(const QLocale& locale)
 {
-    const auto shortForm = partsOf(locale.dateFormat(QLocale::ShortFormat));
-    Words words;
+    LocaleDateRules rules = wordlessDateRules(locale);
+    Words& words = rules.words;
     addNames(words, locale);
     addDayHalves(words, locale);
-    addFillers(words, partsOf(locale.dateFormat(QLocale::LongFormat)));
-    const QString time = locale.timeFormat(QLocale::ShortFormat);
-    return {orderOf(shortForm), hasStopBehindField(shortForm), isClosedByStop(shortForm),
-            time.startsWith(u'a', Qt::CaseInsensitive), std::move(words)};
+    addDateFillers(words, partsOf(locale.dateFormat(QLocale::LongFormat), kDateFields));
+    addTimeFillers(words, partsOf(locale.timeFormat(QLocale::ShortFormat), kTimeFields));
+    for (NamedDateWord& word : words)
+        word.name = rules.folded(word.name);
+    return rules;
 }
 
 } // namespace condtree

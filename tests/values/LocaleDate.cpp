@@ -85,6 +85,9 @@ TEST(LocaleDate, ShortYearsAreThoseFrom1950To2049)
         {u"de_DE"_qs, u"4.7.99"_qs, "1999-07-04"},
         {u"en_US"_qs, u"4/7/9999"_qs, "9999-04-07"},
         {u"en_US"_qs, u"4/7/10000"_qs, "none"},
+        {u"en_US"_qs, u"4/7/67560"_qs, "none"},
+        {u"en_US"_qs, u"4/7/102024"_qs, "none"},
+        {u"en_US"_qs, u"100014:07"_qs, "none"},
         {u"en_US"_qs, u"4/7/4294969320"_qs, "none"},
         {u"en_US"_qs, u"4/7/18446744073709553640"_qs, "none"},
     });
@@ -100,6 +103,8 @@ TEST(LocaleDate, ADayThatDoesNotExistIsNone)
         {u"en_US"_qs, u"30 Feb 2024"_qs, "none"},
         {u"en_US"_qs, u"Feb 29, 2023"_qs, "none"},
         {u"en_US"_qs, u"30 Feb 24"_qs, "none"},
+        {u"en_US"_qs, u"31 Nov 24"_qs, "none"},
+        {u"en_GB"_qs, u"31-Nov-24"_qs, "none"},
         {u"en_US"_qs, u"Feb 30"_qs, "none"},
         {u"en_US"_qs, u"0 Mar 2024"_qs, "none"},
         {u"en_US"_qs, u"2/30"_qs, "none"},
@@ -163,6 +168,21 @@ TEST(LocaleDate, MonthsHaveTheNamesOfTheLocale)
         {u"cs_CZ"_qs, u"4. \u010Dervence 2024"_qs, "2024-07-04"},
         {u"cs_CZ"_qs, u"4. \u010Dervna 2024"_qs, "2024-06-04"},
         {u"zh_CN"_qs, u"4 \u5341\u4E8C\u6708 2024"_qs, "2024-12-04"},
+    });
+}
+
+TEST(LocaleDate, NamesComeInTheCaseOfTheLocaleAndHoweverTheyAreComposed)
+{
+    expectAll(Examples{
+        {u"tr_TR"_qs, u"5 N\u0130SAN 2024"_qs, "2024-04-05"},
+        {u"tr_TR"_qs, u"5 nisan 2024"_qs, "2024-04-05"},
+        {u"tr_TR"_qs, u"5 KASIM 2024"_qs, "2024-11-05"},
+        {u"tr_TR"_qs, u"5 kas\u0131m 2024"_qs, "2024-11-05"},
+        {u"de_DE"_qs, u"5. Ma\u0308rz 2024"_qs, "2024-03-05"},
+        {u"de_DE"_qs, u"5. MA\u0308RZ 2024"_qs, "2024-03-05"},
+        {u"de_DE"_qs, u"5. Marz 2024"_qs, "none"},
+        {u"el_GR"_qs, u"5 \u039C\u0391\u03A1\u03A4\u038A\u039F\u03A5 2024"_qs, "2024-03-05"},
+        {u"el_GR"_qs, u"\u039C\u03AC\u03C1\u03C4\u03B9\u03BF\u03C3 2024"_qs, "2024-03-01"},
     });
 }
 
@@ -348,6 +368,15 @@ TEST(LocaleDate, ThePublicConversionKnowsTheCurrentYear)
     const QDate date = QDate(1899, 12, 30).addDays(static_cast<qint64>(result));
     EXPECT_EQ(date, QDate(date.year(), 7, 1));
     EXPECT_TRUE(date.year() == before || date.year() == after) << date.year();
+}
+
+TEST(LocaleDate, AHostMayTellTheCurrentYear)
+{
+    for (const auto& text : {u"1 July"_qs, u"1/7"_qs}) {
+        double result = 0;
+        ASSERT_TRUE(ParseDateByLocale(text, result, QLocale(u"en_GB"_qs), 2024));
+        EXPECT_EQ(result, 45474) << text.toStdString();
+    }
 }
 
 } // namespace

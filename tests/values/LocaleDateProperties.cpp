@@ -109,6 +109,50 @@ TEST(LocaleDateProperties, EveryLocaleReadsNumbersInItsOwnOrder)
     }
 }
 
+/// How many forms of a locale were read as what they say, and how many were refused; never as
+/// another moment.
+struct ReadBack {
+    int read = 0;
+    int refused = 0;
+
+    void count(const std::string& found, const std::string& expected, const QString& text,
+               const QLocale& locale)
+    {
+        EXPECT_TRUE(found == expected || found == "none")
+            << locale.name().toStdString() << ": " << text.toStdString() << " is " << found;
+        ++(found == "none" ? refused : read);
+    }
+
+    [[nodiscard]] double refusedShare() const { return double(refused) / (read + refused); }
+};
+
+TEST(LocaleDateProperties, NoLocaleReadsItsOwnFormsAsAnotherMoment)
+{
+    ReadBack shortDates;
+    ReadBack longDates;
+    ReadBack times;
+    const auto all =
+        QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyTerritory);
+    for (const QLocale& locale : all) {
+        const LocaleDateRules rules = localeDateRules(locale);
+        for (int month = 1; month <= 12; ++month) {
+            const QDate date(2000 + 2 * month, month, 2 * month);
+            const QString inShort = locale.toString(date, QLocale::ShortFormat);
+            const QString inLong = locale.toString(date, QLocale::LongFormat);
+            shortDates.count(dayOf(inShort, rules), toText(date), inShort, locale);
+            longDates.count(dayOf(inLong, rules), toText(date), inLong, locale);
+            const QTime time(2 * month - 1, 5 * month - 1);
+            const QString inTime = locale.toString(time, QLocale::ShortFormat);
+            times.count(test::read(inTime, locale.name()),
+                        "1899-12-30 " + time.toString(Qt::ISODate).toStdString(), inTime, locale);
+        }
+    }
+    // Mostly digits other than 0 to 9; docs/limitations.md has the kinds.
+    EXPECT_LT(shortDates.refusedShare(), 0.12);
+    EXPECT_LT(longDates.refusedShare(), 0.16);
+    EXPECT_LT(times.refusedShare(), 0.12);
+}
+
 rc::Gen<QString> dateLikeTexts()
 {
     const auto piece = rc::gen::element(

@@ -136,8 +136,76 @@ TEST(LocaleDateTimes, AFullStopSeparatesTimesWhereDatesAreWrittenWithoutIt)
         {u"de_DE"_qs, u"4.7.24"_qs, "2024-07-04"},
         {u"de_DE"_qs, u"4.7.2024 14.07"_qs, "none"},
         {u"de_DE"_qs, u"0.0"_qs, "none"},
-        {u"fi_FI"_qs, u"14.07"_qs, "2026-07-14"},
     });
+}
+
+TEST(LocaleDateTimes, AFullStopBehindAWholeDateSeparatesTimesWhereTheLocaleWritesThemSo)
+{
+    for (const auto& locale : {u"da_DK"_qs, u"fi_FI"_qs}) {
+        for (const auto& text :
+             {u"28.12.2024 14.07"_qs, u"28/12/24 14.07"_qs, u"28 12 2024 14.07"_qs,
+              u"28.12.2024, 14.07"_qs, u"28.12.2024 14.07.00"_qs, u"28.12.2024 2.07 PM"_qs,
+              u"28.12.2024 14:07"_qs, u"14:07 28.12.2024"_qs})
+            expectAll(Examples{{locale, text, "2024-12-28 14:07:00"}});
+        for (const auto& text :
+             {u"28.12.2024.14.07"_qs, u"28.12.2024/14.07"_qs, u"28.12.2024 24.07"_qs,
+              u"28.12.2024 14.60"_qs, u"28.12.2024 14.07.60"_qs, u"28.12.2024 14.07.00.0"_qs,
+              u"28.12.2024 14.07:00"_qs, u"28.12.2024 14"_qs, u"28.12.2024 14."_qs,
+              u"28.12 14.07"_qs, u"4.7 20.24"_qs, u"14.07 28.12.2024"_qs,
+              u"28.12.2024 14.07 PM PM"_qs, u"30.2.2024 14.07"_qs})
+            expectAll(Examples{{locale, text, "none"}});
+    }
+    expectAll(Examples{
+        {u"da_DK"_qs, u"l\u00F8rdag 28. december 2024 14.07"_qs, "2024-12-28 14:07:00"},
+        {u"da_DK"_qs, u"december 2024 14.07"_qs, "none"},
+        {u"fi_FI"_qs, u"28.12.2024 2.07 ip."_qs, "2024-12-28 14:07:00"},
+        {u"de_DE"_qs, u"28.12.2024 14.07"_qs, "none"},
+    });
+}
+
+TEST(LocaleDateTimes, WhatCouldBeADayAndATimeOfAFullStopIsNone)
+{
+    for (const auto& locale : {u"da_DK"_qs, u"fi_FI"_qs}) {
+        expectAll(Examples{
+            {locale, u"14.07"_qs, "none"},
+            {locale, u"4.7"_qs, "none"},
+            {locale, u"0.00"_qs, "none"},
+            {locale, u"11.50"_qs, "none"},
+            {locale, u"23.59"_qs, "none"},
+            {locale, u"24.1"_qs, "2026-01-24"},
+            {locale, u"7.60"_qs, "1960-07-01"},
+            {locale, u"14.07.24"_qs, "2024-07-14"},
+            {locale, u"14/07"_qs, "2026-07-14"},
+        });
+    }
+    expectAll(Examples{{u"fi_FI"_qs, u"la 14.07"_qs, "2026-07-14"}});
+}
+
+TEST(LocaleDateTimes, WordsThatTheLocalePutsIntoTimesAreSkippedThere)
+{
+    expectAll(Examples{
+        {u"bg_BG"_qs, u"14:07 \u0447."_qs, "1899-12-30 14:07:00"},
+        {u"bg_BG"_qs, u"4.07.24 \u0433., 14:07 \u0447."_qs, "2024-07-04 14:07:00"},
+        {u"bg_BG"_qs, u"14:07 \u0447. 4.07.24"_qs, "2024-07-04 14:07:00"},
+        {u"bg_BG"_qs, u"4 \u0447. 7 24"_qs, "none"},
+        {u"bg_BG"_qs, u"14:07 \u0433."_qs, "none"},
+        {u"nds_DE"_qs, u"Kl. 14.07"_qs, "none"},
+        {u"nds_DE"_qs, u"Kl. 14:07"_qs, "1899-12-30 14:07:00"},
+        {u"fr_CA"_qs, u"14 h 07"_qs, "1899-12-30 14:07:00"},
+        {u"fr_CA"_qs, u"2024-07-04 14 h 07"_qs, "2024-07-04 14:07:00"},
+        {u"fr_CA"_qs, u"14 h"_qs, "none"},
+        {u"fr_CA"_qs, u"4 h 7 h 2024"_qs, "none"},
+        {u"fr_FR"_qs, u"14 h 07"_qs, "none"},
+    });
+}
+
+TEST(LocaleDateTimes, ABlankInANameIsAnyBlank)
+{
+    for (const char16_t* blank : {u" ", u"\u00A0", u"\u202F", u"\t"}) {
+        const QString text = u"2:07 p.%1m."_qs.arg(QStringView(blank));
+        expectAll(Examples{{u"es_ES"_qs, text, "1899-12-30 14:07:00"}});
+    }
+    expectAll(Examples{{u"es_ES"_qs, u"2:07 p.m."_qs, "none"}});
 }
 
 } // namespace
