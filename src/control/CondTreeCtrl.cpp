@@ -270,11 +270,17 @@ bool CondTreeCtrl::mbResetComparisonOperator(ArgType type, ComboCmd op)
 
 void CondTreeCtrl::mvSetDefaultSearchVal(VarTreeCtrlNode& node)
 {
-    const auto style = static_cast<std::uint32_t>(miGetDateFmt());
-    const SYSTEMTIME now = m_parts->services.localTime();
+    const auto parts = m_parts;
+    const auto style = static_cast<std::uint32_t>(parts->settings.dateStyle);
+    const HTREEITEM item = node.mhItem;
+    const bool isRow = parts->model.node(item) == &node;
+    const SYSTEMTIME now = parts->services.localTime();
+    // The clock is the host's, who may have deleted the row meanwhile.
+    if (isRow && parts->model.node(item) != &node)
+        return;
     if (const auto value = defaultSearchValue(node.mlOperator, now, style)) {
         node.mValue = *value;
-        m_parts->model.tellTextsChanged();
+        parts->model.tellTextsChanged();
     }
 }
 

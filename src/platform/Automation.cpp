@@ -15,8 +15,10 @@ struct Day {
     int year, month, day;
 };
 
-// Both count from 1 March of the year 0, so that a leap day is the last one of its year.
-// Source: H. Fliegel's method as in C++'s calendar types, for years that are not negative.
+// Both count from 1 March of the year 0, so that a leap day is the last one of its year. From March
+// on, every five months have 153 days, and (153 * month + 2) / 5 is how many go before a month.
+// Back from days, the leap days that are over are taken off first, which makes every year one of
+// 365. For years that are not negative.
 
 constexpr int daysFromMarch(Day date)
 {

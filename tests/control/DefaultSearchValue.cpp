@@ -84,6 +84,58 @@ TEST_F(DefaultSearchValueTest, ARowThatChangedIsDrawnAgainAndTheHostIsNotTold)
     EXPECT_EQ(changes, 0);
 }
 
+TEST_F(DefaultSearchValueTest, TheClockMayDeleteTheControl)
+{
+    std::unique_ptr<ClockedCtrl> doomed;
+    Services ports = services();
+    ports.localTime = [&] {
+        doomed.reset();
+        return now;
+    };
+    doomed = std::make_unique<ClockedCtrl>(nullptr, std::move(ports));
+    VarTreeCtrlNode node(NodeVariable);
+    node.mlOperator = DateEqualTo;
+    doomed->mvSetDefaultSearchVal(node);
+    EXPECT_EQ(doomed, nullptr);
+    EXPECT_EQ(node.mValue, u"2024-03-05"_qs);
+}
+
+TEST_F(DefaultSearchValueTest, TheClockMayDeleteTheRowOrItsControl)
+{
+    for (const bool deletesAll : {false, true}) {
+        std::unique_ptr<ClockedCtrl> tree;
+        auto* row = new VarTreeCtrlNode(NodeVariable); // the tree's
+        Services ports = services();
+        ports.localTime = [&] {
+            const HTREEITEM item = row->mhItem;
+            if (deletesAll)
+                tree.reset();
+            else
+                tree->mvDeleteNode(item);
+            return now;
+        };
+        tree = std::make_unique<ClockedCtrl>(nullptr, std::move(ports));
+        auto* top = new VarTreeCtrlNode(NodeAnd);
+        tree->mhAddNode(nullptr, top, false);
+        ASSERT_NE(tree->mhAddNode(top, row, false), nullptr);
+        row->mlOperator = DateEqualTo;
+        tree->mvSetDefaultSearchVal(*row);
+        EXPECT_EQ(tree == nullptr, deletesAll);
+        EXPECT_TRUE(deletesAll || top->mChildren.empty());
+    }
+}
+
+TEST_F(DefaultSearchValueTest, ARowOfTheTreeGetsItsValue)
+{
+    auto* top = new VarTreeCtrlNode(NodeAnd);
+    clock.mhAddNode(nullptr, top, false);
+    auto* row = new VarTreeCtrlNode(NodeVariable);
+    clock.mhAddNode(top, row, false);
+    row->mlOperator = DateEqualTo;
+    clock.mvSetDefaultSearchVal(*row);
+    EXPECT_EQ(row->mValue, u"2024-03-05"_qs);
+}
+
 TEST_F(DefaultSearchValueTest, WithoutAClockOfTheHostsItIsTheMachines)
 {
     ClockedCtrl real(nullptr, services());
