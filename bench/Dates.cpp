@@ -4,6 +4,7 @@
 #include <benchmark/benchmark.h>
 
 #include <QDateTime>
+#include <QLocale>
 
 #include <algorithm>
 #include <chrono>
@@ -19,10 +20,14 @@ struct Style {
     /// The same layout in the toolkit's terms.
     const char16_t* layout;
 };
-constexpr Style kStyles[]{{103, u"dd/MM/yyyy"},
+constexpr Style kStyles[]{{1, u"MM/dd/yy"},
+                          {12, u"yyMMdd"},
+                          {103, u"dd/MM/yyyy"},
                           {120, u"yyyy-MM-dd"},
                           {121, u"yyyy-MM-dd HH:mm:ss.000"},
-                          {100, u"MMM dd yyyy hh:mm AP"}};
+                          {100, u"MMM dd yyyy hh:mm AP"},
+                          {109, u"MMM dd yyyy hh:mm:ss:000 AP"},
+                          {113, u"dd MMMM yyyy HH:mm:ss:000"}};
 
 constexpr std::size_t kDates = 1000;
 
@@ -53,8 +58,26 @@ std::vector<CString> textsOf(const Dates& dates, std::uint32_t style)
 {
     std::vector<CString> texts(dates.ours.size());
     for (std::size_t i = 0; i < texts.size(); ++i)
-        FormatDateByStyle(texts[i], dates.ours[i], style);
+        static_cast<void>(FormatDateByStyle(texts[i], dates.ours[i], style));
     return texts;
+}
+
+/// The same style in May alone, where its long names of months are the toolkit's and read back.
+Dates inMay(Dates dates)
+{
+    for (std::size_t i = 0; i < dates.ours.size(); ++i) {
+        QDateTime& moment = dates.theirs[i];
+        const QDate date = moment.date();
+        const QDate may(date.year(), 5, date.day());
+        dates.ours[i] += static_cast<double>(date.daysTo(may));
+        moment.setDate(may);
+    }
+    return dates;
+}
+
+Dates datesOf(std::uint32_t style)
+{
+    return style == 113 ? inMay(makeDates()) : makeDates();
 }
 
 /// Calls with each of count indices; the nanoseconds that one call takes.
@@ -103,7 +126,7 @@ const Style& styleOf(const benchmark::State& state)
 void WriteDate(benchmark::State& state)
 {
     const Style style = styleOf(state);
-    const Dates dates = makeDates();
+    const Dates dates = datesOf(style.code);
     const QString layout = QString::fromUtf16(style.layout);
     const std::vector<CString> texts = textsOf(dates, style.code);
     if (dates.theirs[0].toString(layout) != texts[0])
@@ -112,7 +135,7 @@ void WriteDate(benchmark::State& state)
         state,
         [&](std::size_t i) {
             CString text;
-            FormatDateByStyle(text, dates.ours[i], style.code);
+            benchmark::DoNotOptimize(FormatDateByStyle(text, dates.ours[i], style.code));
             benchmark::DoNotOptimize(text.data());
         },
         [&](std::size_t i) {
@@ -126,7 +149,7 @@ void ReadDate(benchmark::State& state)
 {
     const Style style = styleOf(state);
     const QString layout = QString::fromUtf16(style.layout);
-    const std::vector<CString> texts = textsOf(makeDates(), style.code);
+    const std::vector<CString> texts = textsOf(datesOf(style.code), style.code);
     if (!QDateTime::fromString(texts[0], layout).isValid())
         state.SkipWithError("the toolkit does not read it");
     compare(
@@ -140,6 +163,28 @@ void ReadDate(benchmark::State& state)
         [&](std::size_t i) { benchmark::DoNotOptimize(QDateTime::fromString(texts[i], layout)); });
 }
 
+enum LocaleForm { ShortDate, LongDate };
+
+// Bare: the locale's own reader of the form that it wrote.
+void ReadDateByLocale(benchmark::State& state)
+{
+    const QLocale locale(QLocale::German, QLocale::Germany);
+    const QLocale::FormatType form =
+        state.range(0) == ShortDate ? QLocale::ShortFormat : QLocale::LongFormat;
+    std::vector<CString> texts;
+    for (const QDateTime& moment : makeDates().theirs)
+        texts.push_back(locale.toString(moment.date(), form));
+    compare(
+        state,
+        [&](std::size_t i) {
+            double date = 0;
+            if (!ParseDateByLocale(texts[i], date, locale))
+                state.SkipWithError("not read");
+            benchmark::DoNotOptimize(date);
+        },
+        [&](std::size_t i) { benchmark::DoNotOptimize(locale.toDate(texts[i], form)); });
+}
+
 void styles(benchmark::internal::Benchmark* benchmark)
 {
     for (const Style& style : kStyles)
@@ -149,6 +194,12 @@ void styles(benchmark::internal::Benchmark* benchmark)
 
 BENCHMARK(WriteDate)->Apply(styles);
 BENCHMARK(ReadDate)->Apply(styles);
+BENCHMARK(ReadDateByLocale)
+    ->Arg(ShortDate)
+    ->Arg(LongDate)
+    ->Iterations(200)
+    ->UseManualTime()
+    ->Unit(benchmark::kMicrosecond);
 
 } // namespace
 

@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -9,22 +10,24 @@
 
 namespace condtree::fuzz {
 
-/// What a target makes of the bytes that it is given: the first is a choice, the rest a text.
+/// What a target makes of the bytes that it is given: the first four are a choice, the lowest byte
+/// in front, the rest a text.
 struct FuzzInput {
     explicit FuzzInput(std::span<const std::uint8_t> bytes)
     {
-        if (bytes.empty())
-            return;
-        choice = bytes[0];
-        text = textOf(bytes.subspan(1));
+        const std::size_t ofChoice = std::min<std::size_t>(bytes.size(), 4);
+        for (std::size_t i = 0; i < ofChoice; ++i)
+            choice |= std::uint32_t{bytes[i]} << (8 * i);
+        text = textOf(bytes.subspan(ofChoice));
     }
 
-    std::uint8_t choice = 0;
+    std::uint32_t choice = 0;
     QString text;
 
 private:
-    /// ASCII stands for itself. A byte above it says that the next two are any code unit, halves of
-    /// surrogate pairs included.
+    /// A byte below 0x80 is the code unit of that number. One from there on is left out and the two
+    /// behind it, the higher in front, are any code unit, halves of surrogate pairs included; where
+    /// two are missing, it is the code unit of its own number.
     static QString textOf(std::span<const std::uint8_t> bytes)
     {
         QString text;

@@ -1,3 +1,5 @@
+#include "FuzzInput.h"
+
 #include <condtree/platform/Automation.h>
 #include <condtree/values/LocaleDate.h>
 
@@ -8,19 +10,17 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
-#include <cstring>
+
+namespace condtree::fuzz {
 
 namespace {
-
-using namespace condtree;
 
 constexpr double kUntouched = -4711.125;
 
 /// A mixture of orders, separators and words.
-const QLocale& localeOf(std::uint8_t choice)
+const QLocale& localeOf(std::uint32_t choice)
 {
-    static const std::array<QLocale, 12> locales{
+    static const std::array<QLocale, 15> locales{
         QLocale(QLocale::English, QLocale::UnitedStates),
         QLocale(QLocale::English, QLocale::UnitedKingdom),
         QLocale(QLocale::German, QLocale::Germany),
@@ -33,36 +33,34 @@ const QLocale& localeOf(std::uint8_t choice)
         QLocale(QLocale::Hungarian, QLocale::Hungary),
         QLocale(QLocale::Chinese, QLocale::China),
         QLocale(QLocale::Russian, QLocale::Russia),
+        QLocale(QLocale::Danish, QLocale::Denmark),
+        QLocale(QLocale::Bulgarian, QLocale::Bulgaria),
+        QLocale(QLocale::French, QLocale::Canada),
     };
     return locales[choice % locales.size()];
 }
 
-void require(bool holds)
+void checkText(const QString& text, const QLocale& locale)
 {
-    if (!holds)
-        std::abort();
+    double date = kUntouched;
+    if (!ParseDateByLocale(text, date, locale)) {
+        require(date == kUntouched, "a refused text leaves the result alone");
+        return;
+    }
+    SYSTEMTIME fields{};
+    double again = 0;
+    require(VariantTimeToSystemTime(date, fields), "what is read has fields");
+    require(SystemTimeToVariantTime(fields, again) && std::fabs(again - date) < 1e-9,
+            "they are those of the same date");
 }
 
 } // namespace
 
-/// The first byte chooses the locale; the rest is UTF-16, so that halves of pairs occur.
+} // namespace condtree::fuzz
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    if (size == 0)
-        return 0;
-    QString text(static_cast<qsizetype>((size - 1) / sizeof(char16_t)), Qt::Uninitialized);
-    if (!text.isEmpty())
-        std::memcpy(text.data(), data + 1,
-                    static_cast<std::size_t>(text.size()) * sizeof(char16_t));
-
-    double date = kUntouched;
-    if (!ParseDateByLocale(text, date, localeOf(data[0]))) {
-        require(date == kUntouched);
-        return 0;
-    }
-    SYSTEMTIME fields{};
-    double again = 0;
-    require(VariantTimeToSystemTime(date, fields));
-    require(SystemTimeToVariantTime(fields, again) && std::fabs(again - date) < 1e-9);
+    const condtree::fuzz::FuzzInput input({data, size});
+    condtree::fuzz::checkText(input.text, condtree::fuzz::localeOf(input.choice));
     return 0;
 }

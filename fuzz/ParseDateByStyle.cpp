@@ -63,7 +63,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 {
     static const QLocale locale(QLocale::English, QLocale::UnitedKingdom);
     const condtree::fuzz::FuzzInput input({data, size});
-    const std::uint32_t style = input.choice == 0xFF ? 0xFFFFFFFF : input.choice;
-    condtree::fuzz::checkText(input.text, style, locale);
+    condtree::fuzz::checkText(input.text, input.choice, locale);
     return 0;
 }

@@ -11,7 +11,8 @@ namespace condtree {
 /// Writes a date, to the second at most. False, with target untouched, for exactly 0, which is no
 /// date. A date outside what Automation.h can take apart has fields of -1 and no month's name. An
 /// unknown code writes as 113 does.
-CONDTREE_EXPORT bool FormatDateByStyle(CString& target, double date, std::uint32_t style);
+[[nodiscard]] CONDTREE_EXPORT bool FormatDateByStyle(CString& target, double date,
+                                                     std::uint32_t style);
 
 /// Reads a date as a style writes it, whatever the separators; text behind it is not looked at.
 /// What does not fit the style is read by locale. False, with result untouched, for a text that is
@@ -19,10 +20,11 @@ CONDTREE_EXPORT bool FormatDateByStyle(CString& target, double date, std::uint32
 ///
 /// A day that its month does not have runs on into the next month. A date that runs on behind the
 /// year 9999 is 0, which is no date.
-CONDTREE_EXPORT bool ParseDateByStyle(const CString& text, double& result, std::uint32_t style,
-                                      const QLocale& locale);
+[[nodiscard]] CONDTREE_EXPORT bool ParseDateByStyle(const CString& text, double& result,
+                                                    std::uint32_t style, const QLocale& locale);
 
 /// The same in the user's locale.
-CONDTREE_EXPORT bool ParseDateByStyle(const CString& text, double& result, std::uint32_t style);
+[[nodiscard]] CONDTREE_EXPORT bool ParseDateByStyle(const CString& text, double& result,
+                                                    std::uint32_t style);
 
 } // namespace condtree

@@ -30,6 +30,7 @@ Outcome store(const TimeOfDay& time, SYSTEMTIME& fields)
     store(time.hour, fields.wHour);
     store(time.minute, fields.wMinute);
     store(time.second, fields.wSecond);
+    // One of the fields of a date, though the conversion leaves it out.
     return store(time.millisecond, fields.wMilliseconds);
 }
 

@@ -82,15 +82,6 @@ bool isInTime(const std::vector<FormatPart>& parts, std::size_t at)
            && parts[at + 1].text.startsWith(u'm');
 }
 
-bool hasStopInTime(const std::vector<FormatPart>& parts)
-{
-    for (std::size_t i = 0; i < parts.size(); ++i) {
-        if (isInTime(parts, i) && parts[i].text == u".")
-            return true;
-    }
-    return false;
-}
-
 /// The words of what stands between two fields, but for one that touches the number before.
 QStringList wordsOf(const FormatPart& part, bool isBehindNumber)
 {
@@ -150,7 +141,24 @@ void addDayHalves(Words& words, const QLocale& locale)
     words.push_back({locale.pmText(), {.half = DayHalf::Pm}});
 }
 
+/// At one go: folding costs more by the call than by the letter.
+void foldNames(LocaleDateRules& rules)
+{
+    constexpr QChar kBetweenNames(1);
+    QString all;
+    for (const NamedDateWord& word : rules.words)
+        all += word.name + kBetweenNames;
+    const QStringList names = rules.folded(all).split(kBetweenNames);
+    for (std::size_t i = 0; i < rules.words.size(); ++i)
+        rules.words[i].name = names[static_cast<qsizetype>(i)];
+}
+
 } // namespace
+
+FieldOrder fieldOrderOf(QStringView dateFormat)
+{
+    return orderOf(partsOf(dateFormat, kDateFields));
+}
 
 QString LocaleDateRules::folded(QStringView text) const
 {
@@ -166,11 +174,10 @@ LocaleDateRules wordlessDateRules(const QLocale& locale)
 {
     const auto date = partsOf(locale.dateFormat(QLocale::ShortFormat), kDateFields);
     const QString timeForm = locale.timeFormat(QLocale::ShortFormat);
-    const auto time = partsOf(timeForm, kTimeFields);
     return {.order = orderOf(date),
             .stopSeparatesDates = hasStopBehindField(date),
             .stopClosesDates = isClosedByStop(date),
-            .stopSeparatesTimes = hasStopInTime(time),
+            .stopSeparatesTimes = timeForm.contains(u"h.m", kAnyCase),
             .halfLeads = timeForm.startsWith(u'a', kAnyCase),
             .words = {},
             .locale = locale};
@@ -184,8 +191,7 @@ LocaleDateRules localeDateRules(const QLocale& locale)
     addDayHalves(words, locale);
     addDateFillers(words, partsOf(locale.dateFormat(QLocale::LongFormat), kDateFields));
     addTimeFillers(words, partsOf(locale.timeFormat(QLocale::ShortFormat), kTimeFields));
-    for (NamedDateWord& word : words)
-        word.name = rules.folded(word.name);
+    foldNames(rules);
     return rules;
 }
 

@@ -57,6 +57,9 @@ struct LocaleDateRules {
     [[nodiscard]] QString folded(QStringView text) const;
 };
 
+/// The order of a date format ("dd/MM/yyyy"); day, month and year where it lacks one of them.
+[[nodiscard]] FieldOrder fieldOrderOf(QStringView dateFormat);
+
 /// All but the words, of which there are some sixty: enough for texts without any.
 [[nodiscard]] LocaleDateRules wordlessDateRules(const QLocale& locale);
 

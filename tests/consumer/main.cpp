@@ -82,7 +82,7 @@ std::string rewrittenDate()
     double date = 0;
     CString text;
     if (ParseDateByStyle(QStringLiteral("Mar 05 2024 02:07 PM"), date, 100))
-        FormatDateByStyle(text, date, 121);
+        static_cast<void>(FormatDateByStyle(text, date, 121));
     return text.toStdString();
 }
 

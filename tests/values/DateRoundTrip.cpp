@@ -215,6 +215,106 @@ TEST(DateRoundTrip, StylesThatDoNotReadWhatTheyWriteAskTheLocale)
     }
 }
 
+/// What a style reads of its own text, by the locale if not by itself.
+Moment readBackIn(double date, std::uint32_t style, const QLocale& locale)
+{
+    double result = 0;
+    return ParseDateByStyle(written(date, style), result, style, locale) ? momentOf(result)
+                                                                         : kUnread;
+}
+
+const QLocale& american()
+{
+    static const QLocale locale(QLocale::English, QLocale::UnitedStates);
+    return locale;
+}
+
+TEST(DateRoundTrip, TheAmericanLocaleReadsTheDaysOfStyles0And106)
+{
+    for (int day = 45292; day < 45292 + 366; ++day) { // 2024
+        EXPECT_EQ(readBackIn(day + 0.75, 106, american()), momentOf(day)) << day;
+        const Moment read = readBackIn(day + 0.75, 0, american());
+        EXPECT_EQ(read, momentOf(day + 0.75)) << day;
+    }
+}
+
+// The style writes noon as 12 AM and midnight as 00 AM; to a locale both are midnight.
+TEST(DateRoundTrip, EveryLocaleTakesTheHourOfNoonOfStyle0ForTheOneOfMidnight)
+{
+    constexpr Moment kMidnight{2024, 5, 1, 0, 30, 0};
+    constexpr double kFirstOfMay2024 = 45413;
+    int read = 0;
+    const auto all =
+        QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyTerritory);
+    for (const QLocale& locale : all) {
+        const Moment noon = readBackIn(kFirstOfMay2024 + 12.5 / 24, 0, locale);
+        EXPECT_EQ(readBackIn(kFirstOfMay2024 + 0.5 / 24, 0, locale), noon);
+        EXPECT_TRUE(noon == kUnread || noon.hour == 0) << locale.name().toStdString() << noon;
+        read += noon == kMidnight ? 1 : 0;
+    }
+    EXPECT_GT(read, 100);
+}
+
+TEST(DateRoundTrip, OtherLocalesReadTheMonthsOfStyle106ThatTheyCallSo)
+{
+    struct Known {
+        QLocale locale;
+        std::vector<int> months;
+    };
+    const std::vector<Known> all{
+        {american(), {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12}},
+        {QLocale(QLocale::English, QLocale::UnitedKingdom),
+         {1, 2, 3, 4, 5, 6, 7, 8, 10, 11, 12}},                                  // "Sept"
+        {QLocale(QLocale::German, QLocale::Germany), {1, 2, 4, 6, 7, 8, 9, 11}}, // not "Mär", "Mai"
+        {QLocale(QLocale::Japanese, QLocale::Japan), {}},
+    };
+    for (const auto& [locale, months] : all) {
+        std::vector<int> read;
+        for (int month = 1; month <= 12; ++month) {
+            double date = 0;
+            const SYSTEMTIME day{2024, static_cast<std::uint16_t>(month), 0, 5, 0, 0, 0, 0};
+            ASSERT_TRUE(SystemTimeToVariantTime(day, date));
+            const Moment moment = readBackIn(date, 106, locale);
+            EXPECT_TRUE(moment == kUnread || moment == momentOf(date)) << moment;
+            if (moment != kUnread)
+                read.push_back(month);
+        }
+        EXPECT_EQ(read, months) << locale.name().toStdString();
+    }
+}
+
+// Basaa and Duala call another month "May" and Teso another one "Mar"; nothing tells the texts
+// apart.
+TEST(DateRoundTrip, OfStyle106ThreeLanguagesReadAnotherMonth)
+{
+    std::vector<std::string> others;
+    const auto all =
+        QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyTerritory);
+    for (const QLocale& locale : all) {
+        for (int month = 1; month <= 12; ++month) {
+            double date = 0;
+            const SYSTEMTIME day{2024, static_cast<std::uint16_t>(month), 0, 5, 0, 0, 0, 0};
+            ASSERT_TRUE(SystemTimeToVariantTime(day, date));
+            const Moment moment = readBackIn(date, 106, locale);
+            if (moment != kUnread && moment != momentOf(date))
+                others.push_back(locale.name().toStdString() + ' ' + std::to_string(month));
+        }
+    }
+    EXPECT_EQ(others, (std::vector<std::string>{"bas_CM 5", "dua_CM 5", "teo_UG 3", "teo_KE 3"}));
+}
+
+// The locale refuses the milliseconds, whatever it calls the month.
+TEST(DateRoundTrip, NoLocaleReadsStyle113InElevenMonthsNorUnknownCodes)
+{
+    for (int month = 1; month <= 12; ++month) {
+        const double date = 45292 + 30.4 * (month - 1) + 3;
+        const Moment moment = momentOf(date);
+        ASSERT_EQ(moment.month, month);
+        EXPECT_EQ(readBackIn(date, 113, american()), month == 5 ? moment : kUnread);
+        EXPECT_EQ(readBackIn(date, 999, american()), kUnread);
+    }
+}
+
 TEST(DateRoundTrip, NoStyleReadsADateWithoutFields)
 {
     const double none = std::numeric_limits<double>::quiet_NaN();

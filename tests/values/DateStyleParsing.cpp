@@ -152,6 +152,17 @@ TEST(DateStyleParsing, DaysAndMonthsOutOfRangeDoNotFit)
     EXPECT_EQ(read, local);
 }
 
+TEST(DateStyleParsing, WhatIsOutOfItsRangeReachesTheLocale)
+{
+    // No locale has a day 32; with a short year it is the year of one.
+    EXPECT_EQ(parsed(u"32/01/2024"_qs, 103), "none");
+    EXPECT_EQ(parsed(u"32/01/24"_qs, 103), "2032-01-24 00:00:00");
+    EXPECT_EQ(byStyle(u"32/01/24"_qs, 103), "none");
+    const QLocale french(QLocale::French, QLocale::France);
+    EXPECT_EQ(parsed(u"March 05, 2024"_qs, 107), kFifthOfMarch);
+    EXPECT_EQ(parsed(u"March 05, 2024"_qs, 107, french), "none");
+}
+
 // The way by locale
 
 TEST(DateStyleParsing, WhatDoesNotFitIsReadByLocale)
@@ -375,6 +386,15 @@ TEST(DateStyleParsing, LongTextsAreReadOnce)
     EXPECT_EQ(byStyle(u"20240305"_qs + QString(million, u'9'), 112), kFifthOfMarch);
     EXPECT_EQ(byStyle(QString(million, u'9'), 120), "none");
     EXPECT_EQ(byStyle(QString(million, u'm'), 107), "none");
+    for (const QChar unit : {QChar(u'\0'), QChar(u'\xd800'), QChar(u'\xdc00')}) {
+        const QString many(million, unit);
+        for (const std::uint32_t style : {0U, 12U, 103U, 107U, 113U, 121U}) {
+            EXPECT_EQ(parsed(many, style), "none") << style;
+            EXPECT_EQ(parsed(u"5"_qs + many + u"/3/2024"_qs, style), "none") << style;
+        }
+        EXPECT_EQ(byStyle(u"5/3/24"_qs + many, 103), kFifthOfMarch);
+    }
+    EXPECT_EQ(parsed(QString::fromUtf8("\xF0\x9F\x98\x80").repeated(million), 103), "none");
 }
 
 } // namespace

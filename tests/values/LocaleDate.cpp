@@ -252,7 +252,39 @@ TEST(LocaleDate, WordsThatTheLocalePutsBetweenFieldsAreSkipped)
         {u"pt_BR"_qs, u"4 "_qs + u"de "_qs.repeated(20) + u"julho 2024"_qs, "2024-07-04"},
         {u"pt_BR"_qs, u"4 "_qs + u"de "_qs.repeated(30) + u"julho 2024"_qs, "none"},
         {u"en_US"_qs, u"4th of July 2024"_qs, "none"},
+        {u"pt_BR"_qs, u"quinta-feira de 4 de julho de 2024"_qs, "2024-07-04"},
+        {u"pt_BR"_qs, u"4 de de julho 2024"_qs, "2024-07-04"},
+        {u"pt_BR"_qs, u"de"_qs, "none"},
     });
+}
+
+TEST(LocaleDate, AWordThatIsMoreThanAFillerIsWhatElseItIs)
+{
+    LocaleDateRules rules = localeDateRules(QLocale(u"en_US"_qs));
+    const auto dayIn = [&rules](const QString& text) {
+        const auto fields = calendarFieldsOf(text, rules, test::kCurrentYear);
+        return fields ? QDate(fields->wYear, fields->wMonth, fields->wDay) : QDate();
+    };
+    rules.words.push_back({u"of"_qs, {.isFiller = true}});
+    EXPECT_EQ(dayIn(u"4 of July 2024"_qs), QDate(2024, 7, 4));
+    rules.words.push_back({u"of"_qs, {.month = 3}});
+    EXPECT_EQ(dayIn(u"4 of 2024"_qs), QDate(2024, 3, 4));
+    EXPECT_EQ(dayIn(u"4 of July 2024"_qs), QDate());
+    rules.words.push_back({u"on"_qs, {.isWeekday = true, .isFiller = true}});
+    EXPECT_EQ(dayIn(u"July 4 2024 on"_qs), QDate(2024, 7, 4));
+    EXPECT_EQ(dayIn(u"July on 4 2024"_qs), QDate());
+}
+
+TEST(LocaleDate, AFormatThatLacksAFieldSaysNothingOfTheOrder)
+{
+    const auto placesIn = [](QStringView format) {
+        const FieldOrder order = fieldOrderOf(format);
+        return std::array{order.day, order.month, order.year};
+    };
+    EXPECT_EQ(placesIn(u"MM/dd/yyyy"), (std::array{1, 0, 2}));
+    EXPECT_EQ(placesIn(u"dddd yyyy 'd' MMMM d"), (std::array{2, 1, 0}));
+    for (const QStringView format : {u"", u"MM/yyyy", u"yyyy-dd", u"yyyy"})
+        EXPECT_EQ(placesIn(format), (std::array{0, 1, 2})) << format.toString().toStdString();
 }
 
 TEST(LocaleDate, SeparatorsStandBetweenTwoFieldsAndSingly)
