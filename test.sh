@@ -8,4 +8,7 @@ condtree_require build test
 
 cmake --preset dev
 cmake --build --preset dev
-exec ctest --preset dev "$@"
+status=0
+ctest --preset dev "$@" || status=$?
+condtree_tell_skipped build/dev
+exit "$status"

@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# Sourced by the scripts at the root: makes sure that the packages of packages.txt are installed.
+# Sourced by the scripts: makes sure that the packages of packages.txt are installed, and says what was not tested.
 
 # condtree_packages KIND...: the packages that are needed for the kinds, a line each.
 condtree_packages() {
@@ -36,4 +36,12 @@ condtree_require() {
     echo "Installing ${missing[*]}" >&2
     local apt=("${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -q -o DPkg::Lock::Timeout=300)
     "${apt[@]}" update >&2 && "${apt[@]}" install -y --no-install-recommends "${missing[@]}" >&2
+}
+
+# condtree_tell_skipped BUILD: a line on the tests of the last run in a build folder that were skipped for
+# want of the native platform's tables; nothing where there were none.
+condtree_tell_skipped() {
+    local skipped
+    skipped="$(grep -c '^no table ' "$1/Testing/Temporary/LastTest.log" || true)"
+    ((skipped == 0)) || echo "$skipped tests were skipped: the tables that they compare with are missing"
 }
