@@ -37,6 +37,8 @@ void setUpView(QTreeView& view)
     view.setUniformRowHeights(true);
     view.setEditTriggers(QAbstractItemView::NoEditTriggers);
     view.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    // Not every style asks for it, and without it no row is painted anew when the pointer moves.
+    view.viewport()->setAttribute(Qt::WA_Hover);
 }
 
 NMTVCUSTOMDRAW notification(const QWidget* from, QPainter* painter, const QRect& rect,

@@ -5,7 +5,7 @@ namespace condtree {
 namespace {
 
 constexpr LONG kBarWidth = 3;
-/// Of 255: a text keeps nine tenths of its contrast on either.
+/// Of 255: black on white keeps a contrast of more than 13:1 on the one and 17:1 on the other.
 constexpr int kSelected = 48;
 constexpr int kHovered = 18;
 

@@ -14,7 +14,7 @@ struct RowMarks {
 
 /// Describes what is laid over a finished row, from the viewport's left edge to its right one: a
 /// tint and a bar in front where it is selected, a paler tint under the pointer, a frame where the
-/// focus is. Its columns keep their colours and stay readable.
+/// focus is. Texts and pictures are below the tint, and stay readable.
 [[nodiscard]] RowPicture describeMarks(const RECT& row, const RowMarks& marks, COLORREF colour);
 
 } // namespace condtree

@@ -8,6 +8,7 @@
 #include <QWindow>
 
 #include <algorithm>
+#include <utility>
 
 namespace condtree::test {
 namespace {
@@ -71,6 +72,44 @@ TEST_F(RowMarking, TheRowUnderThePointerIsTintedPalerThanTheSelectedOne)
     pointer = {global.x(), global.y()}; // there again, but over another window
     control->viewport()->setAttribute(Qt::WA_UnderMouse, false);
     EXPECT_EQ(picture().pixelColor(6, over.y()), QColor(Qt::white));
+}
+
+/// Which part of a widget was painted.
+class PaintedRegion final : public QObject {
+public:
+    explicit PaintedRegion(QWidget& widget) { widget.installEventFilter(this); }
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint)
+            m_region += static_cast<QPaintEvent*>(event)->region();
+        return false;
+    }
+    QRegion take() { return std::exchange(m_region, QRegion()); }
+
+private:
+    QRegion m_region;
+};
+
+TEST_F(RowMarking, AMovingPointerPaintsTheRowsThatItLeavesAndEnters)
+{
+    const auto moveTo = [&](int row) {
+        const QPoint over = rowRect(at(row)).center();
+        const QPoint global = control->viewport()->mapToGlobal(over);
+        pointer = {global.x(), global.y()};
+        QTest::mouseMove(control->windowHandle(), control->viewport()->mapTo(control.get(), over));
+        QCoreApplication::processEvents();
+    };
+    moveTo(0);
+    PaintedRegion painted(*control->viewport());
+    moveTo(2);
+    const QRegion region = painted.take();
+    const int right = control->viewport()->width() - 2;
+    for (const int row : {0, 2}) {
+        const int y = rowRect(at(row)).center().y();
+        EXPECT_TRUE(region.contains(QPoint(2, y))) << row;
+        EXPECT_TRUE(region.contains(QPoint(right, y))) << row;
+    }
+    EXPECT_FALSE(region.contains(QPoint(2, rowRect(at(1)).center().y())));
 }
 
 TEST_F(RowMarking, TheCurrentRowIsFramedWhileTheControlHasTheFocus)
