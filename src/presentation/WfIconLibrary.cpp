@@ -59,7 +59,8 @@ IconResult WfIconLibrary::loadAtSize(const CString& name, int height, IconPixels
     if (m_bound.loadAtSize == nullptr)
         return IconResult::NoLibrary;
     WfImage* image = m_bound.loadAtSize(name.toStdU16String().c_str(), height);
-    return take(image, name, pixels);
+    // Not worth a line: the picture is there at another size, or its lack has been told.
+    return image == nullptr ? IconResult::NoImage : take(image, name, pixels);
 }
 
 IconResult WfIconLibrary::load(Entry entry, const char* entryName, const CString& name, int use,
@@ -79,7 +80,8 @@ void WfIconLibrary::bind(Entry entry, const char* entryName)
         return;
     m_bound.*entry = reinterpret_cast<WfLoadAsPerDpi*>(dlsym(module.get(), entryName));
     if (m_bound.*entry == nullptr) {
-        tell(QStringLiteral("the icon library has no %1").arg(QLatin1String(entryName)));
+        tell(Problem::NoEntryPoint,
+             QStringLiteral("the icon library has no %1").arg(QLatin1String(entryName)));
         return;
     }
     if (m_bound.loadAtSize == nullptr)
@@ -92,30 +94,35 @@ void WfIconLibrary::bind(Entry entry, const char* entryName)
 ModuleHandle WfIconLibrary::findModule()
 {
     const QStringList places = m_places();
+    bool isTold = false;
     for (const CString& place : places) {
         if (!place.startsWith(u'/')) {
-            tell(QStringLiteral("the icon library %1 is not looked for: its location is relative")
+            tell(Problem::RelativePlace,
+                 QStringLiteral("the icon library %1 is not looked for: its location is relative")
                      .arg(place));
+            isTold = true;
             continue;
         }
         ModuleLoad load = loadModule(place, m_trust);
         if (load.isThere && load.module == nullptr)
-            tell(QStringLiteral("the icon library %1 is not loaded: %2").arg(place, load.problem));
+            tell(Problem::Refused,
+                 QStringLiteral("the icon library %1 is not loaded: %2").arg(place, load.problem));
         if (load.isThere)
             return std::move(load.module);
     }
-    tell(QStringLiteral("there is no icon library"));
+    if (!isTold)
+        tell(Problem::Missing, QStringLiteral("there is no icon library"));
     return nullptr;
 }
 
 IconResult WfIconLibrary::take(WfImage* image, const CString& name, IconPixels& pixels)
 {
     if (image == nullptr) {
-        tell(QStringLiteral("the icon library has no picture %1").arg(name));
+        tell(Problem::NoPicture, QStringLiteral("the icon library has no picture %1").arg(name));
         return IconResult::NoImage;
     }
     if (!isKnown(*image)) { // so it is not known who frees it, either
-        tell(QStringLiteral("the icon library is of another version"));
+        tell(Problem::OtherVersion, QStringLiteral("the icon library is of another version"));
         return IconResult::NoImage;
     }
     const bool isUsable = isPicture(*image);
@@ -124,18 +131,20 @@ IconResult WfIconLibrary::take(WfImage* image, const CString& name, IconPixels& 
                            * static_cast<std::size_t>(image->height) * std::size_t{4};
         pixels = {image->width, image->height, {image->bytes, image->bytes + count}};
     } else {
-        tell(QStringLiteral("the icon library's picture %1 is damaged").arg(name));
+        tell(Problem::Damaged,
+             QStringLiteral("the icon library's picture %1 is damaged").arg(name));
     }
     CoTaskMemFree(image);
     return isUsable ? IconResult::Loaded : IconResult::NoImage;
 }
 
-void WfIconLibrary::tell(const CString& problem)
+void WfIconLibrary::tell(Problem problem, const CString& line)
 {
-    if (m_told.contains(problem))
+    const unsigned bit = 1U << static_cast<unsigned>(problem);
+    if ((m_told & bit) != 0)
         return;
-    m_told.insert(problem);
-    qCWarning(lcIcons).noquote() << problem;
+    m_told |= bit;
+    qCWarning(lcIcons).noquote() << line;
 }
 
 } // namespace condtree

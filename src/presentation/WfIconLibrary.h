@@ -5,7 +5,6 @@
 #include <condtree/presentation/ModuleLoader.h>
 #include <condtree/presentation/ModuleTrust.h>
 
-#include <QSet>
 #include <QStringList>
 
 #include <functional>
@@ -25,8 +24,8 @@ struct IconEntryPoints {
 };
 
 /// The icon library, a module that is looked for when a picture is needed, as long as none is
-/// bound: a failure is tried again at the next call. Every reason why there is no picture is one
-/// line in the log (condtree.icons), however often it comes.
+/// bound: a failure is tried again at the next call. Every kind of reason why there is no picture
+/// is one line in the log (condtree.icons), which names the first case.
 class WfIconLibrary final : public IconLibrary {
 public:
     /// What to try, in its order: the first file that is there is taken or refused. Relative paths
@@ -43,18 +42,27 @@ public:
 
 private:
     using Entry = WfLoadAsPerDpi* IconEntryPoints::*;
+    enum class Problem {
+        RelativePlace,
+        Refused,
+        Missing,
+        NoEntryPoint,
+        NoPicture,
+        OtherVersion,
+        Damaged
+    };
 
     IconResult load(Entry entry, const char* entryName, const CString& name, int use,
                     IconPixels& pixels);
     void bind(Entry entry, const char* entryName);
     [[nodiscard]] ModuleHandle findModule();
     IconResult take(WfImage* image, const CString& name, IconPixels& pixels);
-    void tell(const CString& problem);
+    void tell(Problem problem, const CString& line);
 
     Places m_places;
     ModuleTrust m_trust;
     IconEntryPoints& m_bound;
-    QSet<CString> m_told;
+    unsigned m_told = 0; ///< A bit a problem.
 };
 
 } // namespace condtree
