@@ -42,10 +42,10 @@ class ClickingUser : public QGenericPlugin {
     Q_OBJECT
     Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "clickinguser.json")
 public:
-    /// specification: the file to write to.
-    QObject* create(const QString& name, const QString& specification) override
+    /// parameters: the file to write to.
+    QObject* create(const QString& name, const QString& parameters) override
     {
-        return name == QLatin1String("clickinguser") ? new Reader(specification) : nullptr;
+        return name == QLatin1String("clickinguser") ? new Reader(parameters) : nullptr;
     }
 };
 
