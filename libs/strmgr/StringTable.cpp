@@ -15,10 +15,9 @@ StringTable::StringTable(const CString& title, CString key)
 }
 
 StringTable::StringTable(const CString& title, CString key, const CString& language)
-    : StringTable(title, std::move(key))
+    : StringTable(title, std::move(key), language,
+                  language.isEmpty() ? QStringList() : languageFolders())
 {
-    if (m_isOurs && !language.isEmpty())
-        m_translator = translatorOf(language, languageFolders());
 }
 
 StringTable::StringTable(const CString& title, CString key, const CString& language,
