@@ -12,8 +12,8 @@ namespace {
 bool isComplete(const Services& ports)
 {
     return ports.messageBox && ports.string && ports.localTime && ports.tickCount && ports.cursorPos
-           && ports.systemMetric && ports.doubleClickTime && ports.bitsPerPixel && ports.registry
-           && ports.icons && ports.resultTexts;
+           && ports.systemMetric && ports.doubleClickTime && ports.bitsPerPixel && ports.startTimer
+           && ports.stopTimer && ports.registry && ports.icons && ports.resultTexts;
 }
 
 template <class Port>
@@ -36,6 +36,8 @@ Services completed(Services ports)
     fillIn(ports.systemMetric, real.systemMetric);
     fillIn(ports.doubleClickTime, real.doubleClickTime);
     fillIn(ports.bitsPerPixel, real.bitsPerPixel);
+    fillIn(ports.startTimer, real.startTimer);
+    fillIn(ports.stopTimer, real.stopTimer);
     fillIn(ports.registry, real.registry);
     if (!ports.icons) // where these settings say
         ports.icons = iconsOf(ports.registry);

@@ -10,6 +10,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <utility>
 
 namespace condtree {
 
@@ -231,6 +232,33 @@ void ConditionModel::removeChildren(VarTreeCtrlNode& parent,
         delete *child;
     }
     children.erase(firstPicked, children.end());
+}
+
+void ConditionModel::clearChildren(VarTreeCtrlNode& parent)
+{
+    if (parent.mChildren.empty())
+        return;
+    const bool isTold = isShown(parent);
+    ++m_revision;
+    if (isTold)
+        beginRemoveRows(indexOfNode(parent), 0, static_cast<int>(parent.mChildren.size()) - 1);
+    const std::vector<VarTreeCtrlNode*> children = std::exchange(parent.mChildren, {});
+    for (VarTreeCtrlNode* child : children) {
+        leave(*child);
+        delete child;
+    }
+    if (isTold)
+        endRemoveRows();
+}
+
+void ConditionModel::setImage(HTREEITEM item, int image)
+{
+    if (m_items.image(item) == image || m_items.node(item) == nullptr)
+        return;
+    m_items.setImage(item, image);
+    const QModelIndex index = indexOf(item);
+    if (m_bulks == 0 && index.isValid())
+        Q_EMIT dataChanged(index, index, {Qt::DecorationRole});
 }
 
 void ConditionModel::updateTypeName(VarTreeCtrlNode& node) const

@@ -74,6 +74,13 @@ public:
     void removeChildren(VarTreeCtrlNode& parent,
                         const std::function<bool(const VarTreeCtrlNode&)>& picked);
 
+    /// Deletes all children of parent with their subtrees, first to last. Other rows are not
+    /// touched.
+    void clearChildren(VarTreeCtrlNode& parent);
+
+    /// Gives a row another picture, by its index in the row image list; a handle that names no row
+    /// does nothing.
+    void setImage(HTREEITEM item, int image);
     /// Sets the label of a placeholder or group from its code; other nodes keep theirs.
     void updateTypeName(VarTreeCtrlNode& node) const;
     /// Asks the views to open a row; TVI_ROOT is always open.

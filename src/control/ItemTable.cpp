@@ -72,6 +72,12 @@ int ItemTable::image(HTREEITEM item) const
     return slot == nullptr ? -1 : slot->image;
 }
 
+void ItemTable::setImage(HTREEITEM item, int image)
+{
+    if (const Slot* slot = find(item))
+        m_slots[static_cast<std::size_t>(slot - m_slots.data())].image = image;
+}
+
 int ItemTable::place(HTREEITEM item, const std::vector<VarTreeCtrlNode*>& siblings)
 {
     const Slot* found = find(item);

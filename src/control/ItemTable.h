@@ -22,6 +22,8 @@ public:
     [[nodiscard]] VarTreeCtrlNode* node(HTREEITEM item) const;
     /// The index of the row's picture; -1 for a handle that names no row.
     [[nodiscard]] int image(HTREEITEM item) const;
+    /// Changes the index of the row's picture; a handle that names no row does nothing.
+    void setImage(HTREEITEM item, int image);
     /// The row's place among siblings, which must hold its node. Remembers it: the next question
     /// costs as many steps as the row has moved since.
     int place(HTREEITEM item, const std::vector<VarTreeCtrlNode*>& siblings);

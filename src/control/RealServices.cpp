@@ -2,6 +2,7 @@
 
 #include <condtree/control/MessageBox.h>
 #include <condtree/control/RealIcons.h>
+#include <condtree/control/RealTimers.h>
 #include <condtree/platform/StrMgr.h>
 #include <condtree/presentation/SystemMetrics.h>
 #include <condtree/refdata/RegFileStore.h>
@@ -69,6 +70,8 @@ Services realServices()
         return static_cast<DWORD>(QApplication::doubleClickInterval());
     };
     services.bitsPerPixel = readBitsPerPixel;
+    services.startTimer = startRealTimer;
+    services.stopTimer = stopRealTimer;
     services.registry = std::make_shared<RegFileStore>();
     services.icons = iconsOf(services.registry);
     services.resultTexts = std::make_shared<ResultTexts>();

@@ -31,7 +31,7 @@ enum : int {
 inline constexpr unsigned MB_OK = 0;
 
 /// Everything that the control asks of the world around it, but for the data-access library.
-/// A port that is left empty is the real one. Timers are for the editors, and have no real one yet.
+/// A port that is left empty is the real one.
 struct Services {
     /// Shows a plain text, modal to owner's window (to the application where owner is null), and
     /// waits until it is closed; type is MB_OK. While a message is open over a window, the real one
@@ -49,7 +49,10 @@ struct Services {
     std::function<DWORD()> doubleClickTime;
     /// The screen's colour depth; 0 when it is not known.
     std::function<int()> bitsPerPixel;
+    /// Sends receiver a TimerMessage with this id, once, when the time has passed; starts anew where
+    /// one of the same id is running for it. The receiver may die meanwhile.
     std::function<void(QObject* receiver, std::uintptr_t id, unsigned ms)> startTimer;
+    /// Stops a timer, if it is running.
     std::function<void(QObject* receiver, std::uintptr_t id)> stopTimer;
     std::shared_ptr<RegistryStore> registry;
     std::shared_ptr<IconLibrary> icons;

@@ -18,6 +18,7 @@
 #include <condtree/platform/StoredProcs.h>
 #include <condtree/platform/StrMgr.h>
 #include <condtree/platform/TextRef.h>
+#include <condtree/platform/TimerMessage.h>
 #include <condtree/platform/TreeVocabulary.h>
 #include <condtree/platform/WfIcons.h>
 #include <condtree/platform/WinTypes.h>

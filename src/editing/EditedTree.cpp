@@ -1,0 +1,7 @@
+#include "EditedTree.h"
+
+namespace condtree {
+
+EditedTree::~EditedTree() = default;
+
+} // namespace condtree
