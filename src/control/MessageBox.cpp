@@ -38,7 +38,7 @@ public:
 
     [[nodiscard]] bool isOpenOver(const QWidget* window) const;
     /// Adds a text below those that the box has, unless it is one of them.
-    void add(const CString& text);
+    void add(const CString& text, unsigned type);
 
     void setVisible(bool visible) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -105,8 +105,10 @@ bool MessageBox::isOpenOver(const QWidget* window) const
     return isVisible() && m_window == window && m_isOverWindow == (window != nullptr);
 }
 
-void MessageBox::add(const CString& text)
+void MessageBox::add(const CString& text, unsigned type)
 {
+    if ((type & MB_ICONERROR) != 0)
+        setIcon(Critical);
     if (m_texts.contains(text))
         return;
     m_texts.append(text);
@@ -200,15 +202,15 @@ MessageBox* openBox(const QWidget* window)
 
 } // namespace
 
-void showMessage(QWidget* owner, const CString& text)
+void showMessage(QWidget* owner, const CString& text, unsigned type)
 {
     QWidget* window = owner == nullptr ? nullptr : owner->window();
     if (MessageBox* open = openBox(window)) {
-        open->add(text);
+        open->add(text, type);
         return;
     }
     const QPointer<MessageBox> box(new MessageBox(window));
-    box->add(text);
+    box->add(text, type);
     box->exec();
     delete box;
 }

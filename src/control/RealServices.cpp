@@ -19,9 +19,9 @@ namespace condtree {
 
 namespace {
 
-int showMessageBox(QWidget* owner, const CString& text, unsigned)
+int showMessageBox(QWidget* owner, const CString& text, unsigned type)
 {
-    showMessage(owner, text);
+    showMessage(owner, text, type);
     return QDialog::Accepted;
 }
 

@@ -29,12 +29,14 @@ enum : int {
 
 /// A message box with an OK button and no icon.
 inline constexpr unsigned MB_OK = 0;
+/// The same with the icon of an error.
+inline constexpr unsigned MB_ICONERROR = 0x10;
 
 /// Everything that the control asks of the world around it, but for the data-access library.
 /// A port that is left empty is the real one.
 struct Services {
     /// Shows a plain text, modal to owner's window (to the application where owner is null), and
-    /// waits until it is closed; type is MB_OK. While a message is open over a window, the real one
+    /// waits until it is closed; type is MB_OK or MB_ICONERROR. While a message is open over a window, the real one
     /// adds further texts for that window to it, each once, and returns at once. Owner and its
     /// window may die meanwhile.
     std::function<int(QWidget* owner, const CString& text, unsigned type)> messageBox;

@@ -352,6 +352,23 @@ TEST_F(MessageBoxes, TakeFurtherTextsOfTheirWindowInEachOnce)
     });
 }
 
+TEST_F(MessageBoxes, OfErrorsHaveTheIconOfAnError)
+{
+    window.show();
+    const Services ports = realServices();
+    duringMessage([&] { ports.messageBox(&window, kFirst, MB_ICONERROR); },
+                  [&](QMessageBox& box) {
+                      EXPECT_EQ(box.icon(), QMessageBox::Critical);
+                      joinMessage(&window, kSecond);
+                      EXPECT_EQ(box.icon(), QMessageBox::Critical);
+                      expectNothingIsCutOff(box);
+                  });
+    show([&](QMessageBox& box) {
+        joinMessage(&window, kSecond, MB_ICONERROR);
+        EXPECT_EQ(box.icon(), QMessageBox::Critical);
+    });
+}
+
 TEST_F(MessageBoxes, AreTwoOverTwoWindows)
 {
     ClickedWindow other({400, 400});

@@ -69,9 +69,9 @@ inline void expectToJoin(const std::function<void()>& call)
     call();
 }
 
-inline void joinMessage(QWidget* owner, const QString& text)
+inline void joinMessage(QWidget* owner, const QString& text, unsigned type = MB_OK)
 {
-    expectToJoin([&] { realServices().messageBox(owner, text, MB_OK); });
+    expectToJoin([&] { realServices().messageBox(owner, text, type); });
 }
 
 /// Shows a message with the real port and runs a script while it is open.
