@@ -16,6 +16,11 @@ LONG bounded(std::int64_t x)
     constexpr std::int64_t kFarAway = std::int64_t{1} << 28U;
     return static_cast<LONG>(std::clamp(x, -kFarAway, kFarAway));
 }
+
+LONG widthOf(const RECT& row)
+{
+    return bounded(std::int64_t{row.right} - row.left);
+}
 } // namespace
 
 RowLayout::RowLayout(const RECT& row, LONG textLeft, const ColumnShares& shares, int smallIconWidth)
@@ -28,7 +33,7 @@ RowLayout::RowLayout(const RECT& row, LONG textLeft, const ColumnShares& shares,
 
 PaintedCells RowLayout::paintedCells() const
 {
-    const LONG width = m_row.right - m_row.left;
+    const LONG width = widthOf(m_row);
     PaintedCells cells{};
     cells.body = {m_textLeft, m_row.top, m_row.right, m_row.bottom};
     cells.caption = {m_textLeft + kGap, m_row.top, m_row.right, m_row.bottom};
@@ -50,6 +55,43 @@ PaintedCells RowLayout::paintedCells() const
     cells.operatorImage = {cells.text[1].left, m_row.top};
     cells.text[1].left += m_smallIconWidth + kGap;
     return cells;
+}
+
+int RowLayout::columnOfPoint(POINT point) const
+{
+    const bool isInside = point.x >= m_row.left && point.x < m_row.right && point.y >= m_row.top
+                          && point.y < m_row.bottom;
+    if (!isInside)
+        return -1;
+    const double left = m_row.left;
+    const double fraction = (point.x - left) / (m_row.right - left);
+    double end = 0;
+    for (int column = 0; column < 3; ++column) {
+        end += m_shares.share(column);
+        if (end > fraction)
+            return column;
+    }
+    return 3;
+}
+
+RECT RowLayout::cellToEdit(int column) const
+{
+    RECT cell = m_row;
+    if (column < 0 || column > 3)
+        return cell;
+    const LONG width = widthOf(m_row);
+    LONG edge = 0;
+    for (int before = 0; before < column; ++before)
+        edge = bounded(std::int64_t{edge} + m_shares.width(before, width));
+    cell.left = column == 0 ? m_textLeft : edge;
+    if (column < 3)
+        cell.right = bounded(std::int64_t{edge} + m_shares.width(column, width));
+    return cell;
+}
+
+bool mayBeginDrag(LONG x, LONG clientWidth, const ColumnShares& shares)
+{
+    return x < shares.width(0, clientWidth);
 }
 
 } // namespace condtree

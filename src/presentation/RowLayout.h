@@ -30,6 +30,13 @@ public:
     RowLayout(const RECT& row, LONG textLeft, const ColumnShares& shares, int smallIconWidth);
 
     [[nodiscard]] PaintedCells paintedCells() const;
+    /// The column, 0 to 3, that a point lies in, by the shares themselves: a point on a boundary
+    /// lies at its right. -1 outside the row.
+    [[nodiscard]] int columnOfPoint(POINT point) const;
+    /// Where the editor of a column is placed; the whole row for a column outside 0 to 3. Column 0
+    /// begins at the text. The boundaries between columns are truncated widths that are not offset
+    /// by the row's left edge: the cell is meant for rows that begin at 0.
+    [[nodiscard]] RECT cellToEdit(int column) const;
 
 private:
     RECT m_row;
@@ -37,5 +44,8 @@ private:
     ColumnShares m_shares;
     int m_smallIconWidth;
 };
+
+/// Whether a press at x may begin to drag a row: in the first column, by the client's width.
+[[nodiscard]] bool mayBeginDrag(LONG x, LONG clientWidth, const ColumnShares& shares);
 
 } // namespace condtree
