@@ -10,10 +10,10 @@
 #include <condtree/presentation/RowStyle.h>
 
 #include <QPainter>
-#include <QStyle>
 #include <QTreeView>
 
 #include <algorithm>
+#include <optional>
 
 namespace condtree {
 
@@ -23,20 +23,6 @@ namespace {
 constexpr int kFontMargin = 6;
 
 } // namespace
-
-std::optional<RowPlace> placeOfRow(const QTreeView& view, const QModelIndex& index)
-{
-    const QRect item = view.visualRect(index);
-    if (item.isEmpty())
-        return std::nullopt;
-    // The item's rectangle leaves out the indentation and includes the picture.
-    const bool hasPicture = !index.data(Qt::DecorationRole).isNull();
-    const QStyle& style = *view.style();
-    const int margin = style.pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &view) + 1;
-    const int picture = hasPicture ? view.iconSize().width() + 2 * margin : 0;
-    const RECT row{0, item.top(), view.viewport()->width(), item.top() + item.height()};
-    return RowPlace{row, item.left() + picture};
-}
 
 RowContent contentOfRow(const VarTreeCtrlNode& node, const VarTreeCtrlNode* top)
 {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <condtree/control/TreeGeometry.h>
 #include <condtree/platform/Services.h>
 #include <condtree/platform/TreeVocabulary.h>
 #include <condtree/presentation/FittedTexts.h>
@@ -9,7 +10,6 @@
 #include <QStyledItemDelegate>
 
 #include <functional>
-#include <optional>
 
 class QTreeView;
 
@@ -19,16 +19,6 @@ class ColumnShares;
 class ConditionImages;
 class ConditionModel;
 class VarTreeCtrlNode;
-
-/// Where a row lies in the viewport: the whole row, and the left edge of its text behind
-/// indentation and picture.
-struct RowPlace {
-    RECT row;
-    LONG textLeft;
-};
-
-/// The place of a row of a tree view; none for a row that is not laid out (inside a closed group).
-[[nodiscard]] std::optional<RowPlace> placeOfRow(const QTreeView& view, const QModelIndex& index);
 
 /// What a row shows, from its node.
 [[nodiscard]] RowContent contentOfRow(const VarTreeCtrlNode& node, const VarTreeCtrlNode* top);

@@ -1,6 +1,7 @@
 #include "ControlFixture.h"
 
 #include <condtree/control/RowDrawing.h>
+#include <condtree/control/TreeGeometry.h>
 #include <condtree/presentation/CDPIHelper.h>
 #include <condtree/presentation/RowStyle.h>
 
