@@ -143,6 +143,16 @@ ConditionModel::NodePtr ConditionModel::setTop(NodePtr node)
 
 HTREEITEM ConditionModel::add(VarTreeCtrlNode& parent, NodePtr node, bool first)
 {
+    const HTREEITEM parentItem = parent.mhItem;
+    const bool isInTree = holds(parent);
+    const bool needsLabels = typeLabel(node->mlCode) != nullptr || !node->mChildren.empty();
+    const std::vector<CString> labels =
+        isInTree && needsLabels ? typeLabels() : std::vector<CString>();
+    if (!isInTree)
+        updateTypeName(*node);
+    else if (this->node(parentItem) != &parent)
+        return nullptr; // the texts are the host's, who deleted the parent meanwhile
+
     requireRoomInList(parent.mChildren.size(), m_roomOfLevel);
     if (parent.mChildren.capacity() == 0)
         parent.mChildren.reserve(kFirstChildren);
@@ -154,14 +164,12 @@ HTREEITEM ConditionModel::add(VarTreeCtrlNode& parent, NodePtr node, bool first)
     VarTreeCtrlNode* added = node.release();
     parent.mChildren.insert(parent.mChildren.begin() + row, added);
     added->mpParent = &parent;
-    const bool needsLabels = typeLabel(added->mlCode) != nullptr || !added->mChildren.empty();
-    if (holds(parent))
-        enter(*added, parent, row, needsLabels ? typeLabels() : std::vector<CString>());
-    else
-        updateTypeName(*added);
+    if (isInTree)
+        enter(*added, parent, row, labels);
+    const HTREEITEM item = added->mhItem; // who is told of the row may delete it
     if (isTold)
         endInsertRows();
-    return added->mhItem;
+    return item;
 }
 
 HTREEITEM ConditionModel::attach(VarTreeCtrlNode* parent, VarTreeCtrlNode* node, bool first)

@@ -60,7 +60,8 @@ public:
     /// Makes a node the top; the one before it comes back, out of the tree.
     NodePtr setTop(NodePtr node);
     /// Adds a node with its subtree as the first or last child of parent. Its row; null when parent
-    /// is not in the tree. Throws std::length_error when the parent has no room.
+    /// is not in the tree, and when it has left it while texts were fetched: then the node is
+    /// deleted. Throws std::length_error when the parent has no room.
     HTREEITEM add(VarTreeCtrlNode& parent, NodePtr node, bool first);
     /// Makes node the top when parent is null, giving the top before it back to the caller, else
     /// adds it. Takes ownership of node; null does nothing. The node's row.

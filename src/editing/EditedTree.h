@@ -24,7 +24,8 @@ public:
     /// it whether the tree is still the one that the step before saw.
     [[nodiscard]] virtual std::uint64_t revision() const = 0;
 
-    /// Adds a node as the first or last child of parent, which must be in the tree. Its row.
+    /// Adds a node as the first or last child of parent, which must be in the tree. Its row; null
+    /// when the host deleted the parent while its texts were fetched.
     virtual HTREEITEM add(VarTreeCtrlNode& parent, std::unique_ptr<VarTreeCtrlNode> node,
                           bool first) = 0;
     /// Deletes a row with its subtree; with TVI_ROOT everything. A handle that names no row does

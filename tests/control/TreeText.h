@@ -29,6 +29,7 @@ inline std::string toText(const VarTreeCtrlNode& node)
     number("arg", node.mlArgType, 0);
     number("state", node.mlStateId, -1);
     number("id", node.mlUserOrGroupId, -1);
+    number("object", node.mlObjectType, -1);
     return text;
 }
 
