@@ -10,8 +10,9 @@ namespace condtree {
 namespace {
 
 constexpr LONG kFirstVariableCode = 100;
-/// As many as the fixed entries could be; the same for rows whose list lacks some of them.
-constexpr int kFixedEntries = 7;
+/// Where the search starts before the entries that are counted one by one. Not the number of the
+/// other fixed entries: it is the same for every row and every vault.
+constexpr int kStart = 7;
 
 bool isFoundByCode(LONG nodeCode)
 {
@@ -23,7 +24,7 @@ int searchStart(const KindListFor& list)
 {
     const int usersAndGroups = offersUsersAndGroups(list) ? 2 : 0;
     const int childRefState = offersChildRefState(list) ? 1 : 0;
-    return kFixedEntries + usersAndGroups + childRefState + (offersRemove(list) ? 1 : 0);
+    return kStart + usersAndGroups + childRefState + (offersRemove(list) ? 1 : 0);
 }
 
 } // namespace
