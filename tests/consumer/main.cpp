@@ -2,6 +2,8 @@
 // here.
 #include <condtree/control/CondTreeCtrl.h>
 #include <condtree/control/RealServices.h>
+#include <condtree/editing/CMonthCalCtrlEx.h>
+#include <condtree/editing/PickDateDlg.h>
 #include <condtree/model/ComboCmd.h>
 #include <condtree/model/FocusEditValue.h>
 #include <condtree/model/TransCond.h>
