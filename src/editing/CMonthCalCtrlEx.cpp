@@ -108,8 +108,11 @@ bool CMonthCalCtrlEx::Presses::onPress(const QWidget& watched, const QMouseEvent
     const bool isOnTarget =
         &watched == m_calendar.m_todayLink || (&watched == grid && isDay(inPart));
     m_calendar.m_isTold = false;
-    if (m_doubleClick.press({point.x(), point.y()}, isOnTarget, m_tickCount()))
+    if (m_doubleClick.press({point.x(), point.y()}, isOnTarget, m_tickCount())) {
+        // The first press may have turned the page: what is there now is not what was meant.
         Q_EMIT m_calendar.finished();
+        return true;
+    }
     if (&watched != grid || event.type() == QEvent::MouseButtonPress)
         return false;
     QMouseEvent press(QEvent::MouseButtonPress, event.position(), event.scenePosition(),

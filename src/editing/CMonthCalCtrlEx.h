@@ -34,8 +34,8 @@ Q_SIGNALS:
     /// the day that was selected already. The calendar is at work: delete it later, not now.
     void dateChosen(QDate date);
     /// The user is done: a day or the line of today was clicked twice, or Return was pressed. A
-    /// double click is told at its second press, before the calendar takes it in. Not to be deleted
-    /// now, either.
+    /// double click is told at its second press, which selects nothing more. The calendar is not to
+    /// be deleted now, either.
     void finished();
 
 protected:

@@ -65,10 +65,10 @@ PickDateDlg::PickDateDlg(QWidget* tree, NodeSource node, const RECT& cellOnScree
     , m_window(tree == nullptr ? nullptr : tree->window())
 {
     setAttribute(Qt::WA_QuitOnClose, false);
-    setFocusProxy(m_calendar);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(1, 1, 1, 1); // the border
     layout->addWidget(m_calendar);
+    m_calendar->setFocus(Qt::PopupFocusReason);
     connect(m_calendar, &CMonthCalCtrlEx::dateChosen, this, &PickDateDlg::store);
     connect(m_calendar, &CMonthCalCtrlEx::finished, this, &PickDateDlg::closeSoon);
     for (QWidget* around : {tree, m_window.data()}) {
