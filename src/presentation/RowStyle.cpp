@@ -56,6 +56,9 @@ COLORREF markColour(const QPalette& palette, QPalette::ColorGroup group)
 QPalette paletteOnWhite(const QPalette& desktop)
 {
     QPalette palette = desktop;
+    // What is the desktop's own must not count as set by us: a view takes no notice of a change of
+    // the desktop's where all its colours are set.
+    palette.setResolveMask(0);
     for (const QPalette::ColorGroup group : kGroups) {
         for (const QPalette::ColorRole role : kBackgrounds)
             palette.setColor(group, role, toQColor(kRowBackground));

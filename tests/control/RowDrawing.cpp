@@ -412,6 +412,35 @@ TEST_F(RowDrawing, AChangedDesktopPaletteIsFollowed)
     QApplication::setPalette(before);
 }
 
+// Such as an application that switches between themes of its own.
+TEST_F(RowDrawing, EveryChangeOfTheApplicationsPaletteIsFollowed)
+{
+    loaded({});
+    show();
+    const QPalette before = QApplication::palette();
+    struct Theme {
+        QColor window, text, highlight, shownText;
+    };
+    const std::array<Theme, 4> themes{{{Qt::white, QColor(0, 0, 120), Qt::red, QColor(0, 0, 120)},
+                                       {Qt::black, Qt::white, Qt::blue, Qt::black},
+                                       {Qt::white, QColor(90, 0, 0), Qt::green, QColor(90, 0, 0)},
+                                       {Qt::black, Qt::yellow, Qt::gray, Qt::black}}};
+    for (const Theme& theme : themes) {
+        QPalette palette = before;
+        for (const QPalette::ColorRole role : {QPalette::Window, QPalette::Base})
+            palette.setColor(role, theme.window);
+        for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text})
+            palette.setColor(role, theme.text);
+        palette.setColor(QPalette::Highlight, theme.highlight);
+        QApplication::setPalette(palette);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(control->palette().color(QPalette::Text), theme.shownText);
+        EXPECT_EQ(control->palette().color(QPalette::Highlight), theme.highlight);
+        EXPECT_EQ(control->palette().color(QPalette::Base), QColor(Qt::white));
+    }
+    QApplication::setPalette(before);
+}
+
 TEST_F(RowDrawing, APaletteOfTheHostsOwnStays)
 {
     loaded({});
