@@ -5,9 +5,6 @@ namespace condtree {
 namespace {
 
 constexpr LONG kBarWidth = 3;
-/// Of 255: black on white keeps a contrast of more than 13:1 on the one and 17:1 on the other.
-constexpr int kSelected = 48;
-constexpr int kHovered = 18;
 
 } // namespace
 
@@ -15,7 +12,8 @@ RowPicture describeMarks(const RECT& row, const RowMarks& marks, COLORREF colour
 {
     RowPicture picture;
     if (marks.isSelected || marks.isHovered)
-        picture.push_back(TintPrimitive{row, colour, marks.isSelected ? kSelected : kHovered});
+        picture.push_back(
+            TintPrimitive{row, colour, marks.isSelected ? kSelectedTint : kHoveredTint});
     if (marks.isSelected)
         picture.push_back(
             FillPrimitive{{row.left, row.top, row.left + kBarWidth, row.bottom}, colour});

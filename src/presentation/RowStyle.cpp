@@ -1,5 +1,7 @@
 #include "RowStyle.h"
 
+#include <condtree/presentation/RowMarks.h>
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -13,24 +15,51 @@ constexpr double kReadableContrast = 4.5;
 /// The same of what is no text.
 constexpr double kVisibleContrast = 3.0;
 
-/// A channel of what is seen where a colour lies on white, linear in light.
-double linearOnWhite(double channel, double alpha)
+/// What is seen where a colour lies on an opaque one.
+QColor laidOn(const QColor& ground, const QColor& colour, double alpha)
 {
-    const double seen = channel * alpha + (1.0 - alpha);
-    return seen <= 0.04045 ? seen / 12.92 : std::pow((seen + 0.055) / 1.055, 2.4);
+    const auto mixed = [alpha](double below, double above) {
+        return static_cast<float>(above * alpha + below * (1.0 - alpha));
+    };
+    return QColor::fromRgbF(mixed(ground.redF(), colour.redF()),
+                            mixed(ground.greenF(), colour.greenF()),
+                            mixed(ground.blueF(), colour.blueF()));
 }
 
-double contrastWithWhite(const QColor& colour)
+double luminance(const QColor& colour)
 {
-    const double alpha = colour.alphaF();
-    const double luminance = 0.2126 * linearOnWhite(colour.redF(), alpha)
-                             + 0.7152 * linearOnWhite(colour.greenF(), alpha)
-                             + 0.0722 * linearOnWhite(colour.blueF(), alpha);
-    return 1.05 / (luminance + 0.05);
+    const auto linear = [](double channel) {
+        return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF())
+           + 0.0722 * linear(colour.blueF());
+}
+
+double contrast(const QColor& one, const QColor& other)
+{
+    const auto [dark, light] = std::minmax({luminance(one), luminance(other)});
+    return (light + 0.05) / (dark + 0.05);
+}
+
+QColor onWhite(const QColor& colour)
+{
+    return laidOn(Qt::white, colour, colour.alphaF());
+}
+
+/// Whether a text on white can be read there, and below the tints of marked rows.
+bool isReadable(const QColor& text, const QColor& mark)
+{
+    constexpr double kOpaque = 255;
+    constexpr std::array kTints{0, kHoveredTint, kSelectedTint};
+    return std::all_of(kTints.begin(), kTints.end(), [&](int tint) {
+        const double alpha = tint / kOpaque;
+        return contrast(laidOn(onWhite(text), mark, alpha), laidOn(Qt::white, mark, alpha))
+               >= kReadableContrast;
+    });
 }
 
 constexpr std::array kGroups{QPalette::Active, QPalette::Inactive, QPalette::Disabled};
-/// Texts, and the marks of open and closed groups.
+/// Texts, which may be what marks rows, and then the signs of open and closed groups.
 constexpr std::array kForegrounds{QPalette::Text, QPalette::WindowText};
 constexpr std::array kBackgrounds{QPalette::Base, QPalette::AlternateBase};
 
@@ -47,7 +76,7 @@ QColor toQColor(COLORREF colour)
 COLORREF markColour(const QPalette& palette, QPalette::ColorGroup group)
 {
     const QColor highlight = palette.color(group, QPalette::Highlight);
-    const QColor colour = contrastWithWhite(highlight) < kVisibleContrast
+    const QColor colour = contrast(onWhite(highlight), Qt::white) < kVisibleContrast
                               ? palette.color(group, QPalette::Text)
                               : highlight;
     return RGB(colour.red(), colour.green(), colour.blue());
@@ -63,7 +92,8 @@ QPalette paletteOnWhite(const QPalette& desktop)
         for (const QPalette::ColorRole role : kBackgrounds)
             palette.setColor(group, role, toQColor(kRowBackground));
         for (const QPalette::ColorRole role : kForegrounds) {
-            if (contrastWithWhite(desktop.color(group, role)) < kReadableContrast)
+            const QColor mark = toQColor(markColour(palette, group));
+            if (!isReadable(desktop.color(group, role), mark))
                 palette.setColor(group, role, QColor(Qt::black));
         }
     }

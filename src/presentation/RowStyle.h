@@ -20,8 +20,9 @@ inline constexpr COLORREF kRowBackground = 0x00FFFFFF;
 [[nodiscard]] COLORREF markColour(const QPalette& palette, QPalette::ColorGroup group);
 
 /// A palette for rows on white, made from the desktop's, in every group of it: its colours of texts
-/// and marks where they can be read on white (a contrast of at least 4.5), else black; its
-/// highlight is kept.
+/// and marks where they can be read on white, plain and below the tints of marked rows (a contrast
+/// of at least 4.5), else black; its highlight is kept. Only what is not the desktop's own counts
+/// as set, so that a widget follows the desktop in everything else.
 [[nodiscard]] QPalette paletteOnWhite(const QPalette& desktop);
 
 } // namespace condtree

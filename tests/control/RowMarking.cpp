@@ -3,13 +3,18 @@
 #include <condtree/control/RowDrawing.h>
 #include <condtree/control/TreeGeometry.h>
 
+#include <QApplication>
 #include <QImage>
+#include <QItemSelectionModel>
 #include <QPaintEvent>
 #include <QTest>
 #include <QWindow>
 
 #include <algorithm>
+#include <cmath>
+#include <string>
 #include <utility>
+#include <vector>
 
 namespace condtree::test {
 namespace {
@@ -30,6 +35,30 @@ protected:
     QImage picture() { return control->viewport()->grab().toImage(); }
     QRect rowRect(const QModelIndex& index) const { return control->visualRect(index); }
     QModelIndex at(int row) const { return control->model()->index(row, 0); }
+    /// The pointer over a row, by events.
+    void hover(int row)
+    {
+        const QPoint over = rowRect(at(row)).center();
+        const QPoint global = control->viewport()->mapToGlobal(over);
+        pointer = {global.x(), global.y()};
+        QTest::mouseMove(control->windowHandle(), control->viewport()->mapTo(control.get(), over));
+        QCoreApplication::processEvents();
+    }
+    /// Marks the first row so.
+    void setMark(bool isSelected, bool isHovered, bool isFocused)
+    {
+        QItemSelectionModel& selection = *control->selectionModel();
+        selection.setCurrentIndex(at(0), QItemSelectionModel::Clear);
+        if (isSelected)
+            selection.select(at(0), QItemSelectionModel::Select);
+        hover(isHovered ? 0 : 2);
+        if (isFocused)
+            control->setFocus();
+        else
+            control->clearFocus();
+        QCoreApplication::processEvents();
+        EXPECT_EQ(control->hasFocus(), isFocused);
+    }
 };
 
 // Marks lie over the finished row, columns included.
@@ -58,21 +87,18 @@ TEST_F(RowMarking, ASelectedRowIsTintedFromEdgeToEdgeWithABarInFront)
 TEST_F(RowMarking, TheRowUnderThePointerIsTintedPalerThanTheSelectedOne)
 {
     control->setCurrentIndex(at(0));
-    const QPoint over = rowRect(at(1)).center();
-    const QPoint global = control->viewport()->mapToGlobal(over);
-    pointer = {global.x(), global.y()};
-    QTest::mouseMove(control->windowHandle(), control->viewport()->mapTo(control.get(), over));
-    QCoreApplication::processEvents();
+    hover(1);
     const QImage image = picture();
     const auto tintOf = [&](int row) { return image.pixelColor(6, rowRect(at(row)).center().y()); };
     EXPECT_LT(tintOf(1).lightness(), 255);
     EXPECT_GT(tintOf(1).lightness(), tintOf(0).lightness());
     EXPECT_EQ(tintOf(2), QColor(Qt::white));
-    pointer = {-1000, -1000};
-    EXPECT_EQ(picture().pixelColor(6, over.y()), QColor(Qt::white));
-    pointer = {global.x(), global.y()}; // there again, but over another window
+    const int y = rowRect(at(1)).center().y();
+    const POINT over = std::exchange(pointer, POINT{-1000, -1000});
+    EXPECT_EQ(picture().pixelColor(6, y), QColor(Qt::white));
+    pointer = over; // there again, but over another window
     control->viewport()->setAttribute(Qt::WA_UnderMouse, false);
-    EXPECT_EQ(picture().pixelColor(6, over.y()), QColor(Qt::white));
+    EXPECT_EQ(picture().pixelColor(6, y), QColor(Qt::white));
 }
 
 /// Which part of a widget was painted.
@@ -93,16 +119,9 @@ private:
 
 TEST_F(RowMarking, AMovingPointerPaintsTheRowsThatItLeavesAndEnters)
 {
-    const auto moveTo = [&](int row) {
-        const QPoint over = rowRect(at(row)).center();
-        const QPoint global = control->viewport()->mapToGlobal(over);
-        pointer = {global.x(), global.y()};
-        QTest::mouseMove(control->windowHandle(), control->viewport()->mapTo(control.get(), over));
-        QCoreApplication::processEvents();
-    };
-    moveTo(0);
+    hover(0);
     PaintedRegion painted(*control->viewport());
-    moveTo(2);
+    hover(2);
     const QRegion region = painted.take();
     const int right = control->viewport()->width() - 2;
     for (const int row : {0, 2}) {
@@ -134,21 +153,103 @@ TEST_F(RowMarking, TheCurrentRowIsFramedWhileTheControlHasTheFocus)
     EXPECT_EQ(corners(2), 0);
 }
 
-TEST_F(RowMarking, AMarkedRowStaysReadable)
+/// The relative luminance of a colour, by the guidelines on accessibility (WCAG).
+double luminance(const QColor& colour)
 {
-    const auto darkest = [&] {
-        const QImage image = picture();
-        const QRect rect = rowRect(at(0));
-        int lightness = 255;
-        for (int x = placeOfRow(*control, at(0))->textLeft + 3; x < 95; ++x) {
-            for (int y = rect.top() + 2; y < rect.bottom() - 1; ++y)
-                lightness = std::min(lightness, image.pixelColor(x, y).lightness());
-        }
-        return lightness;
+    const auto linear = [](double channel) {
+        return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
     };
-    const int before = darkest();
-    control->setCurrentIndex(at(0));
-    EXPECT_LT(darkest(), before + 60);
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF())
+           + 0.0722 * linear(colour.blueF());
+}
+
+/// The contrast of two colours, by the same guidelines.
+double contrast(const QColor& one, const QColor& other)
+{
+    const auto [dark, light] = std::minmax({luminance(one), luminance(other)});
+    return (light + 0.05) / (dark + 0.05);
+}
+
+struct DesktopColours {
+    const char* name;
+    QColor base, text, highlight;
+};
+
+const std::vector<DesktopColours> kDesktops{
+    {"light", Qt::white, Qt::black, QColor(48, 140, 198)},
+    {"light, dark highlight", Qt::white, Qt::black, QColor(0, 0, 60)},
+    {"light, pale highlight", Qt::white, Qt::black, QColor(250, 230, 120)},
+    {"light, blue texts", Qt::white, QColor(0, 0, 139), QColor(0, 120, 215)},
+    {"light, grey texts", Qt::white, QColor(118, 118, 118), QColor(48, 140, 198)},
+    {"light, grey texts and dark highlight", Qt::white, QColor(105, 105, 105), Qt::black},
+    {"light, grey texts and pale highlight", Qt::white, QColor(118, 118, 118), Qt::white},
+    {"dark", QColor(30, 30, 30), Qt::white, QColor(42, 130, 218)},
+    {"dark, dark highlight", Qt::black, QColor(220, 220, 220), QColor(20, 20, 60)},
+    {"dark, pale highlight", Qt::black, QColor(220, 220, 220), QColor(240, 240, 240)},
+};
+
+/// Gives the application a desktop's colours, while it lives.
+class OnDesktop {
+public:
+    explicit OnDesktop(const DesktopColours& colours)
+    {
+        QPalette palette = m_before;
+        palette.setColor(QPalette::Base, colours.base);
+        palette.setColor(QPalette::Window, colours.base);
+        palette.setColor(QPalette::Text, colours.text);
+        palette.setColor(QPalette::WindowText, colours.text);
+        palette.setColor(QPalette::Highlight, colours.highlight);
+        QApplication::setPalette(palette);
+        QCoreApplication::processEvents();
+    }
+    OnDesktop(const OnDesktop&) = delete;
+    OnDesktop& operator=(const OnDesktop&) = delete;
+    ~OnDesktop()
+    {
+        QApplication::setPalette(m_before);
+        QCoreApplication::processEvents();
+    }
+
+private:
+    QPalette m_before = QApplication::palette();
+};
+
+struct Mark {
+    const char* name;
+    bool isSelected, isHovered, isFocused;
+};
+
+TEST_F(RowMarking, TextsOfAMarkedRowKeepAContrastOfFourAndAHalf)
+{
+    QFont font = control->font();
+    font.setBold(true); // some pixels are letters altogether
+    font.setPixelSize(24);
+    control->setFont(font);
+    control->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(control.get()));
+    const std::vector<Mark> marks{
+        {"plain", false, false, false},   {"hovered", false, true, false},
+        {"selected", true, false, false}, {"selected and hovered", true, true, false},
+        {"focused", false, false, true},  {"all", true, true, true}};
+    for (const DesktopColours& desktop : kDesktops) {
+        const OnDesktop colours(desktop);
+        for (const Mark& mark : marks) {
+            SCOPED_TRACE(std::string(desktop.name) + ", " + mark.name);
+            setMark(mark.isSelected, mark.isHovered, mark.isFocused);
+            const QImage image = picture();
+            const QRect rect = rowRect(at(0));
+            const QColor tint = image.pixelColor(6, rect.center().y());
+            EXPECT_EQ(tint == QColor(Qt::white), !mark.isSelected && !mark.isHovered);
+            QColor text = tint;
+            for (int x = placeOfRow(*control, at(0))->textLeft + 3; x < 95; ++x) {
+                for (int y = rect.top() + 2; y < rect.bottom() - 1; ++y)
+                    text = luminance(image.pixelColor(x, y)) < luminance(text)
+                               ? image.pixelColor(x, y)
+                               : text;
+            }
+            EXPECT_GE(contrast(text, tint), 4.5);
+        }
+    }
 }
 
 // The control repaints whole rows: what was marked before is not left over anywhere.

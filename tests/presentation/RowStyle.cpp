@@ -76,9 +76,6 @@ TEST(RowStyle, TextsThatCanBeReadOnWhiteKeepTheirColour)
         {"black", Qt::black, Qt::black},
         {"dark blue", QColor(0, 0, 139), QColor(0, 0, 139)},
         {"blue", Qt::blue, Qt::blue},
-        // Grey reaches the contrast of 4.5 between 118 and 119.
-        {"just dark enough", QColor(118, 118, 118), QColor(118, 118, 118)},
-        {"just too light", QColor(119, 119, 119), Qt::black},
         {"red", Qt::red, Qt::black},
         {"green", Qt::green, Qt::black},
         {"yellow", Qt::yellow, Qt::black},
@@ -93,6 +90,52 @@ TEST(RowStyle, TextsThatCanBeReadOnWhiteKeepTheirColour)
             EXPECT_EQ(paletteOnWhite(desktop).color(role), row.shown) << row.name;
         }
     }
+}
+
+struct Grey {
+    const char* name;
+    QColor highlight;
+    int darkEnough;
+    int tooLight;
+};
+
+// On white grey reaches the contrast of 4.5 at 118, and needs to be darker where the row is marked.
+TEST(RowStyle, TextsThatCannotBeReadOnASelectedRowBecomeBlack)
+{
+    const std::vector<Grey> rows{
+        {"bright blue", QColor(0, 120, 215), 100, 101},
+        {"a lighter blue", QColor(48, 140, 198), 98, 99},
+        {"navy", QColor(20, 20, 120), 107, 108},
+        {"black", Qt::black, 109, 110},
+        {"grey", QColor(148, 148, 148), 96, 97},
+        {"so pale that the text's own colour is the mark", Qt::white, 100, 103},
+    };
+    for (const Grey& row : rows) {
+        QPalette desktop;
+        desktop.setColor(QPalette::Highlight, row.highlight);
+        const auto shown = [&](int level) {
+            desktop.setColor(QPalette::Text, QColor(level, level, level));
+            return paletteOnWhite(desktop).color(QPalette::Text).red();
+        };
+        EXPECT_EQ(shown(row.darkEnough), row.darkEnough) << row.name;
+        EXPECT_EQ(shown(row.tooLight), 0) << row.name;
+    }
+}
+
+TEST(RowStyle, OnlyWhatIsNotTheDesktopsCountsAsSet)
+{
+    QPalette desktop = darkDesktop();
+    desktop.setColor(QPalette::Text, QColor(0, 0, 139));
+    const QPalette onWhite = paletteOnWhite(desktop);
+    const auto isSet = [&](QPalette::ColorRole role) {
+        return onWhite.isBrushSet(QPalette::Active, role);
+    };
+    EXPECT_TRUE(isSet(QPalette::Base));
+    EXPECT_TRUE(isSet(QPalette::AlternateBase));
+    EXPECT_TRUE(isSet(QPalette::WindowText));
+    EXPECT_FALSE(isSet(QPalette::Text));
+    EXPECT_FALSE(isSet(QPalette::Highlight));
+    EXPECT_FALSE(isSet(QPalette::Button));
 }
 
 TEST(RowStyle, EachGroupIsJudgedByItself)
