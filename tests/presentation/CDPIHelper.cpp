@@ -17,13 +17,23 @@ using namespace condtree::test;
 
 namespace {
 
-/// Every resolution of the tables below, in the place of either one that may be in use.
+/// Every resolution of the tables below, in the place of either one that may be in use. The
+/// application has another one than the operating system that is in use.
 const std::vector<Setting> kOsInUse{
+    {96, true, 240}, {120, true, 192}, {144, true, 96}, {192, true, 120}, {240, true, 144}};
+const std::vector<Setting> kOsInUseBeforeApplication{
     {96, true, 96}, {120, true, 96}, {144, true, 96}, {192, true, 96}, {240, true, 96}};
 const std::vector<Setting> kApplicationInUse{
     {96, false, 96}, {96, false, 120}, {96, false, 144}, {96, false, 192}, {96, false, 240}};
 const std::vector<Setting> kApplicationBehindOs{
     {96, false, 96}, {120, false, 96}, {144, false, 96}, {192, false, 96}, {240, false, 96}};
+
+/// The application's resolutions in use, on one of the operating system's.
+std::vector<Setting> applicationInUseOn(int os)
+{
+    return {
+        {os, false, 96}, {os, false, 120}, {os, false, 144}, {os, false, 192}, {os, false, 240}};
+}
 
 /// The results of an operation in each of the settings of a list.
 template <class Operation>
@@ -175,18 +185,35 @@ TEST(CDPIHelper, BothDirectionsFollowTheHorizontalResolution)
     EXPECT_EQ(helper.unscaleY(10), 5);
 }
 
+struct Shapes {
+    int dpi;
+    RECT rect;
+    SIZE size;
+    POINT point;
+};
+
 TEST(CDPIHelper, RectanglesSizesAndPointsAreScaledMemberByMember)
 {
-    const DpiHelper helper(Setting{96, false, 144});
-    RECT rect{1, -2, 30, 41};
-    helper.scaleRect(&rect);
-    EXPECT_EQ(rect, (RECT{2, -3, 45, 62}));
-    SIZE size{7, 10};
-    helper.scaleSize(&size);
-    EXPECT_EQ(size, (SIZE{11, 15}));
-    POINT point{-3, 9};
-    helper.scalePoint(&point);
-    EXPECT_EQ(point, (POINT{-5, 14}));
+    const std::vector<Shapes> rows{{96, {1, -2, 30, 41}, {7, 10}, {-3, 9}},
+                                   {120, {1, -3, 38, 51}, {9, 13}, {-4, 11}},
+                                   {144, {2, -3, 45, 62}, {11, 15}, {-5, 14}},
+                                   {192, {2, -4, 60, 82}, {14, 20}, {-6, 18}},
+                                   {240, {3, -5, 75, 103}, {18, 25}, {-8, 23}}};
+    for (const Shapes& row : rows) {
+        for (const Setting& setting : {Setting{row.dpi, true, 77}, Setting{77, false, row.dpi}}) {
+            const DpiHelper helper(setting);
+            SCOPED_TRACE(testing::PrintToString(setting));
+            RECT rect{1, -2, 30, 41};
+            helper.scaleRect(&rect);
+            EXPECT_EQ(rect, row.rect);
+            SIZE size{7, 10};
+            helper.scaleSize(&size);
+            EXPECT_EQ(size, row.size);
+            POINT point{-3, 9};
+            helper.scalePoint(&point);
+            EXPECT_EQ(point, row.point);
+        }
+    }
 }
 
 TEST(CDPIHelper, NullIsNotScaled)
@@ -220,6 +247,15 @@ TEST(CDPIHelper, FontHeightsFollowTheApplicationInUseWhenTheOperatingSystemIsNot
               (Results{13, 12, 12, 12, 12}));
     EXPECT_EQ(results(kApplicationBehindOs, [](auto& h) { return h.unscaleFontHeight(13); }),
               (Results{13, 14, 14, 14, 14}));
+    for (const int os : {95, 97, 120, 144, 192, 240}) {
+        const std::vector<Setting> settings = applicationInUseOn(os);
+        EXPECT_EQ(results(settings, [](auto& h) { return h.scaleFontHeight(13); }),
+                  (Results{12, 15, 18, 24, 30}))
+            << os;
+        EXPECT_EQ(results(settings, [](auto& h) { return h.unscaleFontHeight(13); }),
+                  (Results{14, 11, 9, 7, 6}))
+            << os;
+    }
 }
 
 TEST(CDPIHelper, TheFontHeightOfPointsIsNegativeAndTheInstances)
@@ -254,7 +290,7 @@ TEST(CDPIHelper, LengthsAreConvertedBetweenTheTwoResolutionsWhicheverIsInUse)
 {
     const auto toSystem = [](auto& h) { return h.scale_VeltrixToSystem(10); };
     const auto toVeltrix = [](auto& h) { return h.scale_SystemToVeltrix(10); };
-    for (const std::vector<Setting>& settings : {kOsInUse, kApplicationBehindOs}) {
+    for (const std::vector<Setting>& settings : {kOsInUseBeforeApplication, kApplicationBehindOs}) {
         EXPECT_EQ(results(settings, toSystem), (Results{10, 13, 15, 20, 25}));
         EXPECT_EQ(results(settings, toVeltrix), (Results{10, 8, 7, 5, 4}));
     }
@@ -289,12 +325,31 @@ TEST(CDPIHelper, ANegativeMenuHeightIsNone)
     EXPECT_EQ(treeItemHeights(kOsInUse, -1000), (Results{22, 24, 32, 44, 44}));
 }
 
+struct Heights {
+    int os;
+    int menu;
+    Results heights; ///< With the application at 96, 120, 144, 192 and 240, and in use.
+};
+
 TEST(CDPIHelper, TheTreeItemsLimitIsInTheApplicationsResolutionWhenThatIsInUse)
 {
-    // 24, 30, 54, 88 and 110 are the limits.
-    EXPECT_EQ(treeItemHeights(kApplicationInUse, 19), (Results{22, 28, 32, 44, 54}));
-    // 24, 19, 16, 12 and 10.
-    EXPECT_EQ(treeItemHeights(kApplicationBehindOs, 19), (Results{22, 18, 16, 12, 10}));
+    // The wished heights are 22, 28, 33, 44 and 55, the icons 24, 24, 36, 44 and 44. The limit is
+    // the larger of icon and menu, by the application's resolution over the system's.
+    const std::vector<Heights> rows{
+        {96, -1, {22, 28, 32, 44, 54}},  {96, 19, {22, 28, 32, 44, 54}},
+        {96, 30, {22, 28, 32, 44, 54}},  {96, 48, {22, 28, 32, 44, 54}},
+        {120, -1, {18, 24, 32, 44, 54}}, {120, 19, {18, 24, 32, 44, 54}},
+        {120, 30, {22, 28, 32, 44, 54}}, {120, 48, {22, 28, 32, 44, 54}},
+        {144, -1, {16, 20, 32, 44, 54}}, {144, 19, {16, 20, 32, 44, 54}},
+        {144, 30, {20, 24, 32, 44, 54}}, {144, 48, {22, 28, 32, 44, 54}},
+        {192, -1, {12, 14, 26, 44, 54}}, {192, 19, {12, 14, 26, 44, 54}},
+        {192, 30, {14, 18, 26, 44, 54}}, {192, 48, {22, 28, 32, 44, 54}},
+        {240, -1, {10, 12, 22, 34, 44}}, {240, 19, {10, 12, 22, 34, 44}},
+        {240, 30, {12, 14, 22, 34, 44}}, {240, 48, {18, 24, 28, 38, 48}},
+    };
+    for (const Heights& row : rows)
+        EXPECT_EQ(treeItemHeights(applicationInUseOn(row.os), row.menu), row.heights)
+            << row.os << ' ' << row.menu;
 }
 
 TEST(CDPIHelper, TheIconOfTheTreeItemHeightGrowsAt32And40)
@@ -331,22 +386,54 @@ TEST(CDPIHelper, TheTreeItemHeightIsWorkedOutOnce)
     EXPECT_EQ(helper.getTreeItemHeight(), 32);
 }
 
+Results menuItemHeights(const std::vector<Setting>& settings, int menu, int a, int b)
+{
+    Desktop desktop;
+    desktop.menu = menu;
+    return results(
+        settings, [a, b](auto& h) { return h.getMenuItemHeight(a, b); }, desktop);
+}
+
+struct LargestOfThree {
+    int menu, a, b;
+    int height;
+};
+
 TEST(CDPIHelper, AMenuItemIsAsHighAsTheLargestOfThree)
 {
-    const auto height = [](int a, int b) {
-        return results(kOsInUse, [a, b](auto& h) { return h.getMenuItemHeight(a, b); });
+    const std::vector<LargestOfThree> rows{
+        {19, 10, 12, 19}, {19, 30, 12, 30}, {19, 10, 41, 41},  {19, -1, -2, 19},
+        {38, 10, 12, 38}, {38, 30, 12, 38}, {38, 10, 41, 41},  {48, 47, 46, 48},
+        {0, -1, -2, 0},   {-9, -1, -2, -1}, {-9, -30, -2, -2}, {-9, -30, -20, -9},
     };
-    EXPECT_EQ(height(10, 12), (Results{19, 19, 19, 19, 19}));
-    EXPECT_EQ(height(30, 12), (Results{30, 30, 30, 30, 30}));
-    EXPECT_EQ(height(10, 41), (Results{41, 41, 41, 41, 41}));
-    EXPECT_EQ(height(-1, -2), (Results{19, 19, 19, 19, 19}));
+    for (const LargestOfThree& row : rows)
+        EXPECT_EQ(menuItemHeights(kOsInUse, row.menu, row.a, row.b), Results(5, row.height))
+            << row.menu << ' ' << row.a << ' ' << row.b;
 }
+
+struct MenuItems {
+    int os;
+    int menu, a, b;
+    Results heights; ///< With the application at 96, 120, 144, 192 and 240, and in use.
+};
 
 TEST(CDPIHelper, AMenuItemIsInTheApplicationsResolutionWhenThatIsInUse)
 {
-    const auto height = [](auto& h) { return h.getMenuItemHeight(10, 12); };
-    EXPECT_EQ(results(kApplicationInUse, height), (Results{19, 24, 29, 38, 48}));
-    EXPECT_EQ(results(kApplicationBehindOs, height), (Results{19, 15, 13, 10, 8}));
+    const std::vector<MenuItems> rows{
+        {96, 19, 10, 12, {19, 24, 29, 38, 48}},  {96, 38, 10, 12, {38, 48, 57, 76, 95}},
+        {96, 38, 10, 41, {41, 51, 62, 82, 103}}, {96, 19, 30, 12, {30, 38, 45, 60, 75}},
+        {120, 19, 10, 12, {15, 19, 23, 30, 38}}, {120, 38, 10, 12, {30, 38, 46, 61, 76}},
+        {120, 38, 10, 41, {33, 41, 49, 66, 82}}, {120, 19, 30, 12, {24, 30, 36, 48, 60}},
+        {144, 19, 10, 12, {13, 16, 19, 25, 32}}, {144, 38, 10, 12, {25, 32, 38, 51, 63}},
+        {144, 38, 10, 41, {27, 34, 41, 55, 68}}, {144, 19, 30, 12, {20, 25, 30, 40, 50}},
+        {192, 19, 10, 12, {10, 12, 14, 19, 24}}, {192, 38, 10, 12, {19, 24, 29, 38, 48}},
+        {192, 38, 10, 41, {21, 26, 31, 41, 51}}, {192, 19, 30, 12, {15, 19, 23, 30, 38}},
+        {240, 19, 10, 12, {8, 10, 11, 15, 19}},  {240, 38, 10, 12, {15, 19, 23, 30, 38}},
+        {240, 38, 10, 41, {16, 21, 25, 33, 41}}, {240, 19, 30, 12, {12, 15, 18, 24, 30}},
+    };
+    for (const MenuItems& row : rows)
+        EXPECT_EQ(menuItemHeights(applicationInUseOn(row.os), row.menu, row.a, row.b), row.heights)
+            << row.os << ' ' << row.menu << ' ' << row.a << ' ' << row.b;
 }
 
 TEST(CDPIHelper, ListItemsAre20HighOnTheDesignGrid)

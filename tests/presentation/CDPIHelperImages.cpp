@@ -131,7 +131,8 @@ TEST(CDPIHelperImages, TheNextSizeClimbsTheLadder)
 }
 
 struct TreeImage {
-    int dpi;
+    Setting setting;
+    int menu;
     int height;
     int image;
     const char* suffix;
@@ -140,18 +141,39 @@ struct TreeImage {
 TEST(CDPIHelperImages, ATreeImageFollowsTheHeightOfTheRows)
 {
     const std::vector<TreeImage> rows{
-        {96, 22, 20, "_20"},  {120, 28, 20, "_20"}, {131, 30, 20, "_20"},
-        {138, 32, 32, "_32"}, {144, 32, 32, "_32"}, {172, 38, 32, "_32"},
-        {173, 40, 40, "_40"}, {192, 44, 40, "_40"}, {240, 54, 40, "_40"},
+        {{96, true, 240}, 60, 22, 20, "_20"},
+        {{120, true, 192}, 60, 28, 20, "_20"},
+        {{131, true, 96}, 60, 30, 20, "_20"},
+        {{138, true, 96}, 60, 32, 32, "_32"},
+        {{144, true, 96}, 60, 32, 32, "_32"},
+        {{172, true, 96}, 60, 38, 32, "_32"},
+        {{173, true, 96}, 60, 40, 40, "_40"},
+        {{192, true, 120}, 60, 44, 40, "_40"},
+        {{240, true, 144}, 60, 54, 40, "_40"},
+        // The application's resolution, on one as high, a lower and a higher one.
+        {{96, false, 96}, 19, 22, 20, "_20"},
+        {{240, false, 96}, 19, 10, 20, "_20"},
+        {{120, false, 120}, 19, 24, 20, "_20"},
+        {{96, false, 120}, 19, 28, 20, "_20"},
+        {{192, false, 120}, 19, 14, 20, "_20"},
+        {{144, false, 144}, 19, 32, 32, "_32"},
+        {{96, false, 144}, 19, 32, 32, "_32"},
+        {{192, false, 144}, 19, 26, 20, "_20"},
+        {{192, false, 192}, 19, 44, 40, "_40"},
+        {{120, false, 192}, 19, 44, 40, "_40"},
+        {{240, false, 192}, 19, 34, 32, "_32"},
+        {{240, false, 240}, 19, 44, 40, "_40"},
+        {{96, false, 240}, 19, 54, 40, "_40"},
     };
-    Desktop desktop;
-    desktop.menu = 60;
     for (const TreeImage& row : rows) {
-        DpiHelper helper(row.dpi, desktop);
-        EXPECT_EQ(helper.getDesiredBitmapImageSz(use(1)), row.image) << row.dpi;
+        SCOPED_TRACE(testing::PrintToString(row.setting));
+        Desktop desktop;
+        desktop.menu = row.menu;
+        DpiHelper helper(row.setting, desktop);
+        EXPECT_EQ(helper.getDesiredBitmapImageSz(use(1)), row.image);
         EXPECT_EQ(helper.getDesiredBitmapImageSize(use(1), {1, 2}), (SIZE{row.image, row.image}));
-        EXPECT_EQ(helper.getImageSizeSuffix(use(1)).toStdString(), row.suffix) << row.dpi;
-        EXPECT_EQ(helper.getTreeItemHeight(), row.height) << row.dpi;
+        EXPECT_EQ(helper.getImageSizeSuffix(use(1)).toStdString(), row.suffix);
+        EXPECT_EQ(helper.getTreeItemHeight(), row.height);
     }
 }
 
@@ -362,40 +384,68 @@ struct AtResolution {
     /// Sizes, then suffixes, of the uses 0 to 6.
     std::vector<int> sizes;
     std::vector<std::string> suffixes;
+    /// The tree's image, use 1, with the application at 96, 120, 144, 192 and 240, and in use.
+    std::vector<int> treeImages;
 };
+
+const std::vector<AtResolution> kUsualDesktops{
+    {96,
+     {16, 16, 32, 32, 19},
+     {20, 20, 20, 16, 32, 0, 256},
+     {"_20", "_20", "_20", "", "_32", "_96", "_256"},
+     {20, 20, 32, 40, 40}},
+    {120,
+     {20, 20, 40, 40, 24},
+     {20, 20, 20, 20, 40, 0, 256},
+     {"_20", "_20", "_20", "_20", "_40", "_96", "_256"},
+     {20, 20, 32, 40, 40}},
+    {144,
+     {24, 24, 48, 48, 29},
+     {20, 32, 32, 24, 48, 0, 256},
+     {"_20", "_32", "_32", "_24", "_48", "_96", "_256"},
+     {20, 20, 32, 40, 40}},
+    {192,
+     {32, 32, 64, 64, 38},
+     {20, 40, 32, 32, 64, 0, 256},
+     {"_20", "_40", "_32", "_32", "_64", "_96", "_256"},
+     {20, 20, 20, 40, 40}},
+    {240,
+     {40, 40, 80, 80, 48},
+     {20, 40, 40, 40, 80, 0, 256},
+     {"_20", "_40", "_40", "_40", "_80", "_128", "_256"},
+     {20, 20, 20, 32, 40}},
+};
+
+void expectImage(DpiHelper& helper, int number, int size, const std::string& suffix)
+{
+    EXPECT_EQ(helper.getDesiredBitmapImageSz(use(number)), size) << number;
+    EXPECT_EQ(helper.getImageSizeSuffix(use(number)).toStdString(), suffix) << number;
+}
 
 TEST(CDPIHelperImages, TheUsualDesktopsHaveTheirImages)
 {
-    const std::vector<AtResolution> rows{
-        {96,
-         {16, 16, 32, 32, 19},
-         {20, 20, 20, 16, 32, 0, 256},
-         {"_20", "_20", "_20", "", "_32", "_96", "_256"}},
-        {120,
-         {20, 20, 40, 40, 24},
-         {20, 20, 20, 20, 40, 0, 256},
-         {"_20", "_20", "_20", "_20", "_40", "_96", "_256"}},
-        {144,
-         {24, 24, 48, 48, 29},
-         {20, 32, 32, 24, 48, 0, 256},
-         {"_20", "_32", "_32", "_24", "_48", "_96", "_256"}},
-        {192,
-         {32, 32, 64, 64, 38},
-         {20, 40, 32, 32, 64, 0, 256},
-         {"_20", "_40", "_32", "_32", "_64", "_96", "_256"}},
-        {240,
-         {40, 40, 80, 80, 48},
-         {20, 40, 40, 40, 80, 0, 256},
-         {"_20", "_40", "_40", "_40", "_80", "_128", "_256"}},
-    };
-    for (const AtResolution& row : rows) {
-        DpiHelper helper(row.dpi, row.desktop);
-        for (int number = 0; number <= 6; ++number) {
-            const auto at = static_cast<std::size_t>(number);
-            EXPECT_EQ(helper.getDesiredBitmapImageSz(use(number)), row.sizes[at])
-                << row.dpi << ' ' << number;
-            EXPECT_EQ(helper.getImageSizeSuffix(use(number)).toStdString(), row.suffixes[at])
-                << row.dpi << ' ' << number;
+    for (const AtResolution& row : kUsualDesktops) {
+        for (const int application : {77, 96, 120, 144, 192, 240}) {
+            const Setting setting{row.dpi, true, application};
+            SCOPED_TRACE(testing::PrintToString(setting));
+            DpiHelper helper(setting, row.desktop);
+            for (std::size_t number = 0; number <= 6; ++number)
+                expectImage(helper, int(number), row.sizes[number], row.suffixes[number]);
+        }
+    }
+}
+
+TEST(CDPIHelperImages, OnTheUsualDesktopsOnlyTheTreesImageFollowsAnApplicationInUse)
+{
+    const std::vector<int> applications{96, 120, 144, 192, 240};
+    for (const AtResolution& row : kUsualDesktops) {
+        for (std::size_t at = 0; at < applications.size(); ++at) {
+            const Setting setting{row.dpi, false, applications[at]};
+            SCOPED_TRACE(testing::PrintToString(setting));
+            DpiHelper helper(setting, row.desktop);
+            expectImage(helper, 1, row.treeImages[at], "_" + std::to_string(row.treeImages[at]));
+            for (const std::size_t number : {0U, 2U, 3U, 4U, 5U, 6U})
+                expectImage(helper, int(number), row.sizes[number], row.suffixes[number]);
         }
     }
 }
