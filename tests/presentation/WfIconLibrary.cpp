@@ -8,8 +8,12 @@
 
 #include <algorithm>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
+
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace condtree::test {
 
@@ -151,6 +155,35 @@ TEST_F(WfIconLibraryTest, AFileThatIsRefusedIsNotReplacedByALaterOne)
     EXPECT_EQ(warning.count(), 1);
 }
 
+TEST_F(WfIconLibraryTest, WhatOthersMayWriteIsRefused)
+{
+    struct Row {
+        mode_t folder;
+        mode_t file;
+        const char* problem;
+    };
+    const std::vector<Row> rows{
+        {0700, 0646, "others may write it"},
+        {0700, 0664, "others may write it"},
+        {0707, 0644, "others may write a folder that it lies in"},
+        {0777, 0644, "others may write a folder that it lies in"},
+    };
+    for (const Row& row : rows) {
+        const ModuleFiles open;
+        const QString place = open.copy("Good");
+        chmod(place.toUtf8().constData(), row.file);
+        chmod(open.path("").toUtf8().constData(), row.folder);
+        places = {place, files.copy("Good")};
+        WfIconLibrary each([this] { return places; }, {{0, geteuid()}, std::nullopt}, bound);
+        const ExpectWarning warning(place + QStringLiteral(" is not loaded: ")
+                                    + QString::fromUtf8(row.problem));
+        IconPixels pixels;
+        EXPECT_EQ(each.loadIcon(kIcon, 3, pixels), IconResult::NoLibrary) << row.problem;
+        EXPECT_EQ(each.loadImage(kStrip, 3, pixels), IconResult::NoLibrary) << row.problem;
+        EXPECT_EQ(warning.count(), 1) << row.problem;
+    }
+}
+
 TEST_F(WfIconLibraryTest, ARelativePlaceIsPassedOverAndTold)
 {
     // It is there, seen from the current folder.
@@ -212,6 +245,22 @@ TEST_F(WfIconLibraryTest, ALibraryWithoutPicturesIsBoundAndSaysSoOnce)
     EXPECT_EQ(atSize(kIcon, 20), "no image");
     EXPECT_EQ(warning.count(), 1);
     EXPECT_NE(bound.loadIcon, nullptr);
+}
+
+// The picture is there, and is scaled.
+TEST_F(WfIconLibraryTest, APictureThatIsMissingAtASizeOnlyIsNoLine)
+{
+    useModule("NoPictureAtASize");
+    EXPECT_EQ(icon(), "16 x 16 ff800000");
+    EXPECT_EQ(strip(), "64 x 16 80008000");
+    EXPECT_EQ(atSize(kIcon, 24), "no image");
+    EXPECT_EQ(atSize(kStrip, 24), "no image");
+    EXPECT_EQ(atSize(kIcon, 20), "20 x 20 ff000080");
+    // One that is missing at all is told as ever.
+    const ExpectWarning warning(QStringLiteral("the icon library has no picture PNG_AND"));
+    EXPECT_EQ(icon(kIcon, 4), "no image");
+    EXPECT_EQ(atSize(kIcon, 24), "no image");
+    EXPECT_EQ(warning.count(), 1);
 }
 
 TEST_F(WfIconLibraryTest, AnotherUseIsPassedThrough)
