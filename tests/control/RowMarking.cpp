@@ -233,6 +233,7 @@ TEST_F(RowMarking, TextsOfAMarkedRowKeepAContrastOfFourAndAHalf)
         {"focused", false, false, true},  {"all", true, true, true}};
     for (const DesktopColours& desktop : kDesktops) {
         const OnDesktop colours(desktop);
+        ASSERT_EQ(control->palette().color(QPalette::Highlight), desktop.highlight);
         for (const Mark& mark : marks) {
             SCOPED_TRACE(std::string(desktop.name) + ", " + mark.name);
             setMark(mark.isSelected, mark.isHovered, mark.isFocused);
