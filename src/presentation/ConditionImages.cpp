@@ -138,6 +138,7 @@ void ConditionImages::append(IconLibrary& library, const QSize& iconSize, int bi
         m_rows = std::make_shared<ImgLst>(iconSize, bitsPerPixel < kFullColourBits
                                                         ? ImgLst::Depth::Indexed8
                                                         : ImgLst::Depth::Colour32);
+        m_rows->setBackground(kRowBackground);
         m_operators = std::make_shared<ImgLst>(iconSize);
     }
 

@@ -18,8 +18,17 @@ namespace {
 
 /// More resolutions than the screens of one desktop have.
 constexpr std::size_t kMostEditions = 8;
-/// Pictures of more pixels are enlarged by the painter.
-constexpr int kHighest = 1024;
+
+bool isPlace(const QSize& pixels)
+{
+    return !pixels.isEmpty() && std::max(pixels.width(), pixels.height()) <= ImgLst::kLongestSide;
+}
+
+/// In whole pixels; 0 for what is no length, and just too long for what is much too long.
+int sideOf(double length)
+{
+    return length > 0 ? qRound(std::min(length, ImgLst::kLongestSide + 1.0)) : 0;
+}
 
 /// Makes every pixel of the mask colour transparent.
 void applyMask(QImage& image, COLORREF mask)
@@ -73,6 +82,20 @@ QImage toIndexed(const QImage& image)
 
 } // namespace
 
+ImgLst::ImgLst(const QSize& imageSize, Depth depth)
+    : m_size(imageSize)
+    , m_depth(depth)
+{
+}
+
+ImgLst::~ImgLst() = default;
+
+void ImgLst::setBackground(COLORREF colour)
+{
+    m_background = colour;
+    m_editions.clear();
+}
+
 QImage ImgLst::image(int index) const
 {
     return index >= 0 && index < count() ? m_images[static_cast<std::size_t>(index)] : QImage();
@@ -81,7 +104,9 @@ QImage ImgLst::image(int index) const
 QImage ImgLst::image(int index, const QSize& pixels) const
 {
     const QImage original = image(index);
-    if (original.isNull() || original.size() == pixels || pixels.isEmpty())
+    if (original.isNull() || !isPlace(pixels))
+        return {};
+    if (original.size() == pixels && !m_background)
         return original;
     if (m_editions.size() >= kMostEditions)
         m_editions.clear();
@@ -91,6 +116,17 @@ QImage ImgLst::image(int index, const QSize& pixels) const
     if (found.isNull())
         fillEdition(edition, index, pixels);
     return found;
+}
+
+QSize ImgLst::place(int index, double scaleX, double scaleY) const
+{
+    const QImage picture = image(index);
+    if (picture.isNull())
+        return {};
+    const double tooHigh = static_cast<double>(picture.height()) / std::max(m_size.height(), 1);
+    const double tooWide = static_cast<double>(picture.width()) / std::max(m_size.width(), 1);
+    const double ratio = std::max({1.0, tooHigh, tooWide});
+    return {sideOf(picture.width() / ratio * scaleX), sideOf(picture.height() / ratio * scaleY)};
 }
 
 QSize ImgLst::pixelSize(int height) const
@@ -119,11 +155,11 @@ void ImgLst::draw(QPainter& painter, int index, const QPoint& at) const
     if (original.isNull())
         return;
     const QTransform device = painter.deviceTransform();
-    const QSize place = placeOf(original, device.m11(), device.m22());
-    if (device.type() > QTransform::TxScale || place.isEmpty() || place.height() > kHighest) {
+    const QSize pixels = place(index, device.m11(), device.m22());
+    if (device.type() > QTransform::TxScale || !isPlace(pixels)) {
         const bool wasSmooth = painter.testRenderHint(QPainter::SmoothPixmapTransform);
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        painter.drawImage(QRect(at, placeOf(original, 1, 1)), original);
+        painter.drawImage(QRect(at, place(index, 1, 1)), shown(original));
         painter.setRenderHint(QPainter::SmoothPixmapTransform, wasSmooth);
         return;
     }
@@ -133,7 +169,7 @@ void ImgLst::draw(QPainter& painter, int index, const QPoint& at) const
     const QTransform below = world.inverted() * device;
     painter.setWorldTransform(QTransform::fromTranslate(qRound(corner.x()), qRound(corner.y()))
                               * below.inverted());
-    painter.drawImage(QPoint(0, 0), image(index, place));
+    painter.drawImage(QPoint(0, 0), image(index, pixels));
     painter.setWorldTransform(world);
 }
 
@@ -143,27 +179,29 @@ QImage ImgLst::kept(const QImage& image) const
                                       : image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
 
-/// How many pixels a picture takes at a scale: imageSize at most, as it is where it is smaller.
-QSize ImgLst::placeOf(const QImage& image, double scaleX, double scaleY) const
+/// On the background, if there is one.
+QImage ImgLst::shown(const QImage& image) const
 {
-    const double tooHigh = static_cast<double>(image.height()) / std::max(m_size.height(), 1);
-    const double tooWide = static_cast<double>(image.width()) / std::max(m_size.width(), 1);
-    const double ratio = std::max({1.0, tooHigh, tooWide});
-    return {qRound(image.width() / ratio * scaleX), qRound(image.height() / ratio * scaleY)};
+    if (!m_background)
+        return kept(image);
+    QImage onBackground(image.size(), QImage::Format_ARGB32_Premultiplied);
+    onBackground.fill(toQColor(*m_background));
+    QPainter(&onBackground).drawImage(0, 0, image);
+    return kept(onBackground);
 }
 
 void ImgLst::fillEdition(Edition& edition, int index, const QSize& pixels) const
 {
+    const QImage original = image(index);
     const auto strip = std::find_if(m_strips.begin(), m_strips.end(), [index](const Strip& s) {
         return index >= s.first && index < s.first + s.count;
     });
-    if (strip != m_strips.end() && strip->redraw)
+    if (original.size() != pixels && strip != m_strips.end() && strip->redraw)
         redrawStrip(edition, *strip, pixels);
     QImage& picture = edition[static_cast<std::size_t>(index)];
     if (picture.isNull())
-        picture = kept(image(index)
-                           .convertToFormat(QImage::Format_ARGB32_Premultiplied)
-                           .scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+        picture = shown(original.convertToFormat(QImage::Format_ARGB32_Premultiplied)
+                            .scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
 }
 
 /// All pictures of a strip, if it can be redrawn with as many.
@@ -173,7 +211,7 @@ void ImgLst::redrawStrip(Edition& edition, const Strip& strip, const QSize& pixe
     if (static_cast<int>(pictures.size()) != strip.count)
         return;
     std::transform(pictures.begin(), pictures.end(), edition.begin() + strip.first,
-                   [this](const QImage& picture) { return kept(picture); });
+                   [this](const QImage& picture) { return shown(picture); });
 }
 
 } // namespace condtree

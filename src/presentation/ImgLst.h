@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -22,23 +23,35 @@ public:
     /// How pictures are kept: 8 bits a pixel or 32.
     enum class Depth { Indexed8, Colour32 };
 
+    /// No place for a picture has a longer side; larger ones are enlarged by the painter.
+    static constexpr int kLongestSide = 1024;
+
     /// Makes a strip again for pictures of so many pixels; a null image where it cannot.
     using Redraw = std::function<QImage(const QSize& cell)>;
 
     /// imageSize in device-independent pixels.
-    explicit ImgLst(const QSize& imageSize, Depth depth = Depth::Colour32)
-        : m_size(imageSize)
-        , m_depth(depth)
-    {
-    }
+    explicit ImgLst(const QSize& imageSize, Depth depth = Depth::Colour32);
+    // It owns its pictures; icons of views refer to the one list.
+    ImgLst(const ImgLst&) = delete;
+    ImgLst& operator=(const ImgLst&) = delete;
+    virtual ~ImgLst();
+
+    /// What pictures are shown on where they are transparent; nothing as long as this is not
+    /// called.
+    void setBackground(COLORREF colour);
 
     [[nodiscard]] QSize imageSize() const { return m_size; }
     [[nodiscard]] int count() const { return static_cast<int>(m_images.size()); }
     /// A picture as it was appended; a null image for an index outside the list.
     [[nodiscard]] QImage image(int index) const;
-    /// A picture for a place of so many pixels: redrawn, else fitted to it. A null image for an
-    /// index outside the list.
+    /// A picture as it is shown in a place of so many pixels: redrawn, else fitted to it, on the
+    /// background. A null image for an index outside the list, and for a side below 1 or above
+    /// kLongestSide.
     [[nodiscard]] QImage image(int index, const QSize& pixels) const;
+    /// How many pixels a picture takes on a device with so many a point: as many as imageSize, or
+    /// fewer where it is smaller; no side is more than kLongestSide + 1. Empty for an index outside
+    /// the list.
+    [[nodiscard]] QSize place(int index, double scaleX, double scaleY) const;
 
     /// The size of a picture that is so many pixels high: imageSize, enlarged where height is more.
     [[nodiscard]] QSize pixelSize(int height) const;
@@ -65,12 +78,13 @@ private:
     using Edition = std::vector<QImage>;
 
     [[nodiscard]] QImage kept(const QImage& image) const;
-    [[nodiscard]] QSize placeOf(const QImage& image, double scaleX, double scaleY) const;
+    [[nodiscard]] QImage shown(const QImage& image) const;
     void fillEdition(Edition& edition, int index, const QSize& pixels) const;
     void redrawStrip(Edition& edition, const Strip& strip, const QSize& pixels) const;
 
     QSize m_size;
     Depth m_depth;
+    std::optional<COLORREF> m_background;
     Edition m_images;
     std::vector<Strip> m_strips;
     // Asking for a picture in other pixels changes nothing that anyone can see.

@@ -173,6 +173,19 @@ TEST(ConditionImages, RowIconsLieOnWhiteAndSilverIsTransparentInThem)
     EXPECT_EQ(images.rows()->image(2).pixel(1, 0), 0xFFFFFFFF);
 }
 
+TEST(ConditionImages, TheBackgroundOfTheRowListIsWhiteAndTheOperatorsHaveNone)
+{
+    Library library;
+    library.damagedName = QStringLiteral("PNG_OR");
+    library.damaged = plain(16, 16, {0xC0, 0xC0, 0xC0, 0xFF});
+    ConditionImages images;
+    images.append(library, kSize, 32);
+    for (const QSize& size : {kSize, QSize(24, 24)}) {
+        EXPECT_EQ(images.rows()->image(2, size).pixel(8, 8), 0xFFFFFFFF);
+        EXPECT_EQ(qAlpha(images.operators()->image(0, size).pixel(12, 12)), 0);
+    }
+}
+
 TEST(ConditionImages, AHalfTransparentPixelOfARowIconIsMixedWithWhite)
 {
     Library library;

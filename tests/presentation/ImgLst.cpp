@@ -4,6 +4,9 @@
 
 #include <QPainter>
 
+#include <limits>
+#include <type_traits>
+
 using namespace condtree;
 
 namespace {
@@ -36,6 +39,11 @@ TEST(ImgLst, StartsEmptyAndKnowsItsSize)
     EXPECT_EQ(list.count(), 0);
     EXPECT_EQ(list.imageSize(), QSize(16, 12));
 }
+
+// It owns its pictures, and whoever derives from it may be deleted as the list.
+static_assert(!std::is_copy_constructible_v<ImgLst> && !std::is_copy_assignable_v<ImgLst>);
+static_assert(!std::is_move_constructible_v<ImgLst> && !std::is_move_assignable_v<ImgLst>);
+static_assert(std::has_virtual_destructor_v<ImgLst>);
 
 TEST(ImgLst, PicturesAreReachedInTheOrderInWhichTheyCame)
 {
@@ -203,6 +211,59 @@ TEST(ImgLst, TransparentPixelsShowWhatIsBelow)
     ImgLst list({2, 2});
     list.appendStrip(plain(2, 2, qRgb(0xC0, 0xC0, 0xC0)), kSilver);
     EXPECT_EQ(drawn(list, 0), drawn(list, 99));
+}
+
+TEST(ImgLst, WhereAPictureIsTransparentTheBackgroundIsShown)
+{
+    for (const ImgLst::Depth depth : {ImgLst::Depth::Colour32, ImgLst::Depth::Indexed8}) {
+        QImage strip = plain(2, 2, qRgb(0xC0, 0xC0, 0xC0));
+        strip.setPixel(1, 1, 0xFF0000FF);
+        ImgLst list({2, 2}, depth);
+        list.appendStrip(strip, kSilver, [](const QSize& cell) {
+            return plain(cell.width(), cell.height(), qRgb(0xC0, 0xC0, 0xC0));
+        });
+        EXPECT_EQ(drawn(list, 0).pixel(1, 1), 0xFFFFFFFF); // the sheet
+        list.setBackground(0x0000FFFF);
+        EXPECT_EQ(drawn(list, 0).pixel(1, 1), 0xFFFFFF00);
+        EXPECT_EQ(drawn(list, 0).pixel(2, 2), 0xFF0000FF);
+        EXPECT_EQ(drawn(list, 0).pixel(3, 3), 0xFFFFFFFF);
+        EXPECT_EQ(drawn(list, 0, 2).pixel(3, 3), 0xFFFFFF00);
+        EXPECT_EQ(list.image(0, {2, 2}).pixel(0, 0), 0xFFFFFF00);
+        EXPECT_EQ(list.image(0, {5, 5}).pixel(4, 4), 0xFFFFFF00);
+        EXPECT_EQ(qAlpha(list.image(0).pixel(0, 0)), 0); // as it was appended
+        list.setBackground(0x000000FF);
+        EXPECT_EQ(drawn(list, 0).pixel(1, 1), 0xFFFF0000);
+    }
+}
+
+TEST(ImgLst, PicturesOfAbsurdSizesAreNullAndNotRedrawn)
+{
+    ImgLst list({2, 2});
+    QList<QSize> asked;
+    list.appendStrip(plain(2, 2, 0xFF0000FF), kSilver, [&asked](const QSize& cell) {
+        asked << cell;
+        return QImage();
+    });
+    for (const QSize& size : {QSize(0, 2), QSize(2, 0), QSize(-2, -2), QSize(2, 1025),
+                              QSize(1025, 2), QSize(2147483647, 2147483647)})
+        EXPECT_TRUE(list.image(0, size).isNull()) << size.width() << 'x' << size.height();
+    EXPECT_TRUE(asked.isEmpty());
+    EXPECT_EQ(list.image(0, {1024, 1024}).size(), QSize(1024, 1024));
+}
+
+TEST(ImgLst, AHugeScaleEnlargesThePictureThatIsThere)
+{
+    ImgLst list({2, 2});
+    list.append(plain(2, 2, 0xFF0000FF));
+    EXPECT_EQ(list.place(0, 1e300, 2), QSize(1025, 4));
+    EXPECT_EQ(list.place(0, -1, std::numeric_limits<double>::quiet_NaN()), QSize(0, 0));
+    EXPECT_TRUE(list.place(1, 1, 1).isEmpty());
+    QImage sheet = plain(8, 8, 0xFFFFFFFF);
+    QPainter painter(&sheet);
+    painter.scale(1, 600);
+    list.draw(painter, 0, {1, 0});
+    EXPECT_EQ(sheet.pixel(1, 7), 0xFF0000FF);
+    EXPECT_EQ(sheet.pixel(3, 7), 0xFFFFFFFF);
 }
 
 TEST(ImgLst, ALargerPictureIsReducedToTheListsSize)
