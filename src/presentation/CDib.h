@@ -33,7 +33,9 @@ struct CPalette {
 /// The palette for screens of 256 colours: a cube of six steps a channel, and grey between them.
 [[nodiscard]] CPalette halftonePalette();
 
-/// A bitmap with its description and its palette.
+/// A bitmap with its description and its palette, which belong to this bitmap: it holds the bitmap
+/// instead of being one, so that nobody can paint on it or exchange it behind their back. A copy
+/// shares the bits, which nobody changes.
 class CDib {
 public:
     /// Takes a bitmap over, describes it and gives it its palette. A null image detaches.

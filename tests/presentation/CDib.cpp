@@ -102,6 +102,22 @@ TEST(CDib, TheHalftonePaletteHas256ColoursOfACubeAndOfGrey)
     }
 }
 
+TEST(CDib, ACopyKeepsTheBitsThatItDescribes)
+{
+    QImage image(2, 2, QImage::Format_ARGB32);
+    image.fill(0xFF0000FF);
+    CDib copy;
+    {
+        CDib dib;
+        dib.attach(image);
+        copy = dib;
+    }
+    image.fill(0xFFFF0000);
+    image = {};
+    ASSERT_EQ(copy.description().bmBits, copy.bitmap().constBits());
+    EXPECT_EQ(*static_cast<const QRgb*>(copy.description().bmBits), 0xFF0000FF);
+}
+
 TEST(CDib, AttachingNothingLetsGo)
 {
     CDib dib;
