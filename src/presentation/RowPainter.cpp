@@ -2,12 +2,14 @@
 
 #include <condtree/presentation/FittedTexts.h>
 #include <condtree/presentation/ImgLst.h>
+#include <condtree/presentation/PixelGrid.h>
 #include <condtree/presentation/RowStyle.h>
 
 #include <QFontMetrics>
 #include <QPainter>
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 
 namespace condtree {
@@ -50,37 +52,37 @@ public:
         , m_images(images)
         , m_texts(texts)
         , m_metrics(painter.fontMetrics())
+        , m_grid(painter.deviceTransform())
     {
     }
 
-    void operator()(const FillPrimitive& fill) const { fillArea(fill.rect, fill.colour); }
+    void operator()(const FillPrimitive& fill) const
+    {
+        fillArea(m_grid.area(fill.rect), toQColor(fill.colour));
+    }
 
     void operator()(const TintPrimitive& tint) const
     {
         QColor colour = toQColor(tint.colour);
         colour.setAlpha(tint.alpha);
-        if (const QRect area = toQRect(tint.rect); !area.isEmpty())
-            m_painter.fillRect(area, colour);
+        fillArea(m_grid.area(tint.rect), colour);
     }
 
     void operator()(const FramePrimitive& frame) const
     {
-        const RECT& r = frame.rect;
-        if (toQRect(r).isEmpty())
-            return;
-        fillArea({r.left, r.top, r.right, r.top + 1}, frame.colour);
-        fillArea({r.left, r.bottom - 1, r.right, r.bottom}, frame.colour);
-        fillArea({r.left, r.top, r.left + 1, r.bottom}, frame.colour);
-        fillArea({r.right - 1, r.top, r.right, r.bottom}, frame.colour);
+        if (!toQRect(frame.rect).isEmpty())
+            fillAreas(m_grid.frame(frame.rect), frame.colour);
     }
 
     void operator()(const PolylinePrimitive& line) const
     {
-        for (std::size_t i = 1; i < line.points.size(); ++i)
-            drawLine(line.points[i - 1], line.points[i], line.colour);
+        fillAreas(m_grid.polyline(line.points), line.colour);
     }
 
-    void operator()(const LinePrimitive& line) const { drawLine(line.from, line.to, line.colour); }
+    void operator()(const LinePrimitive& line) const
+    {
+        fillArea(m_grid.line(line.from, line.to), toQColor(line.colour));
+    }
 
     void operator()(const ImagePrimitive& image) const
     {
@@ -110,29 +112,26 @@ public:
     }
 
 private:
-    /// Much faster than lines of a pen, and crisp whatever the painter's hints.
-    void fillArea(const RECT& rect, COLORREF colour) const
+    /// Much faster than lines of a pen.
+    void fillArea(const QRectF& area, const QColor& colour) const
     {
         // The painter would turn a rectangle with negative sides round.
-        if (const QRect area = toQRect(rect); !area.isEmpty())
-            m_painter.fillRect(area, toQColor(colour));
+        if (!area.isEmpty())
+            m_painter.fillRect(area, colour);
     }
 
-    /// All pixels from the one point up to the other, which is left out.
-    void drawLine(const POINT& from, const POINT& to, COLORREF colour) const
+    template <std::size_t N>
+    void fillAreas(const std::array<QRectF, N>& areas, COLORREF colour) const
     {
-        const auto span = [](LONG start, LONG end) {
-            return end >= start ? std::pair{start, end} : std::pair{end + 1, start + 1};
-        };
-        const auto [left, right] = from.x == to.x ? std::pair{to.x, to.x + 1} : span(from.x, to.x);
-        const auto [top, bottom] = from.x == to.x ? span(from.y, to.y) : std::pair{to.y, to.y + 1};
-        fillArea({left, top, right, bottom}, colour);
+        for (const QRectF& area : areas)
+            fillArea(area, toQColor(colour));
     }
 
     QPainter& m_painter;
     const ImgLst& m_images;
     FittedTexts& m_texts;
     QFontMetrics m_metrics;
+    PixelGrid m_grid;
 };
 
 } // namespace
@@ -140,9 +139,15 @@ private:
 void paintRow(QPainter& painter, const RowPicture& picture, const ImgLst& operatorImages,
               FittedTexts& texts)
 {
+    // Soft edges would blur what does not lie on whole pixels, and leave gaps between rows.
+    const bool wasSoft = painter.testRenderHint(QPainter::Antialiasing);
+    if (wasSoft)
+        painter.setRenderHint(QPainter::Antialiasing, false);
     const Executor executor(painter, operatorImages, texts);
     for (const RowPrimitive& primitive : picture)
         std::visit(executor, primitive);
+    if (wasSoft)
+        painter.setRenderHint(QPainter::Antialiasing);
 }
 
 } // namespace condtree
