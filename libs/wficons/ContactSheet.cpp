@@ -1,8 +1,12 @@
-// contact_sheet MODULE PNG: draws every picture of an icon library, found in the module as the
-// control finds it, at the usual sizes with its name.
+// contact_sheet MODULE FOLDER PNG: draws every picture of an icon library, found in the module as
+// the control finds it, at the usual sizes with its name. The sheet carries a checksum of the
+// drawings in the folder, which tells whether it still shows them.
 #include <condtree/platform/WfIcons.h>
 #include <condtree/platform/WinTypes.h>
 
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
 #include <QGuiApplication>
 #include <QImage>
 #include <QLibrary>
@@ -96,14 +100,29 @@ void drawEverything(const Sheet& sheet)
         y += sheet.drawStrip(name, {kMargin, y});
 }
 
+/// Of the names and contents of the drawings in a folder, in hexadecimal digits.
+QString checksum(const QString& folder)
+{
+    const QDir drawings(folder, QStringLiteral("*.svg"), QDir::Name, QDir::Files);
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    for (const QString& name : drawings.entryList()) {
+        QFile file(drawings.filePath(name));
+        if (!file.open(QIODevice::ReadOnly))
+            qFatal("%s cannot be read", qPrintable(file.fileName()));
+        const QByteArray content = file.readAll();
+        hash.addData(name.toUtf8() + ' ' + QByteArray::number(content.size()) + '\n' + content);
+    }
+    return QString::fromLatin1(hash.result().toHex());
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
     const QGuiApplication application(argc, argv);
     const QStringList arguments = QGuiApplication::arguments();
-    if (arguments.size() != 3)
-        qFatal("usage: contact_sheet MODULE PNG");
+    if (arguments.size() != 4)
+        qFatal("usage: contact_sheet MODULE FOLDER PNG");
     QLibrary module(arguments[1]);
     auto* load = reinterpret_cast<WfLoadAtSize*>(module.resolve(kWfLoadAtSizeEntry));
     if (load == nullptr)
@@ -118,6 +137,7 @@ int main(int argc, char** argv)
     painter.setFont(font);
     drawEverything(Sheet(load, painter));
     painter.end();
-    if (!page.save(arguments[2]))
-        qFatal("%s cannot be written", qPrintable(arguments[2]));
+    page.setText(QStringLiteral("Drawings"), checksum(arguments[2]));
+    if (!page.save(arguments[3]))
+        qFatal("%s cannot be written", qPrintable(arguments[3]));
 }

@@ -7,4 +7,4 @@ build="${1:-$root/build/dev}"
 [[ -f "$build/CMakeCache.txt" ]] || cmake -S "$root" --preset dev -B "$build"
 cmake --build "$build" --target contact_sheet
 QT_QPA_PLATFORM=offscreen "$build/libs/wficons/contact_sheet" \
-    "$build/src/condtree/libWfIcons.so" "$root/docs/icons.png"
+    "$build/src/condtree/libWfIcons.so" "$root/libs/wficons/svg" "$root/docs/icons.png"

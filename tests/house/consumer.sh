@@ -44,6 +44,12 @@ platform="$(sed -nE 's,.*libcondtree-platform.* => ([^ ]+) .*,\1,p' <<<"$needed"
 [[ "$(realpath "$platform")" == "$(realpath "$libdir/libcondtree-platform.so")" ]] ||
     fail "the icon library finds '$platform'"
 
+# The control loads it by its descriptor, where its own search path means nothing, and needs no more.
+QT_LOGGING_RULES="condtree.icons=true" QT_FORCE_STDERR_LOGGING=1 in_clean_home \
+    "$work/prefix/bin/condtree-workbench" --screenshot "$work/home/shot.png" 2>"$work/shot.log" ||
+    fail "the installed workbench shows nothing: $(<"$work/shot.log")"
+! grep -F "icon library" "$work/shot.log" || fail "the installed control has no pictures"
+
 pc_dir="$(dirname "$(find "$work/prefix" -name condtree.pc)")"
 pc() { PKG_CONFIG_PATH="$pc_dir" pkg-config "$@"; }
 # shellcheck disable=SC2046,SC2086 # flags are words

@@ -5,6 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
+#include <QFile>
+
 #include <array>
 
 using namespace condtree;
@@ -40,6 +43,43 @@ TEST(Pictures, FillTheMiddleOfCellsThatAreNotSquare)
 TEST(Pictures, OfASizeThatNoImageHoldsAreNull)
 {
     EXPECT_TRUE(drawPicture(*findPicture(u"PNG_YELLOW_OPS"), {5'000'000, 1}).isNull());
+}
+
+// "and" and "or" are curves alone: they have no edges that could lie between pixels.
+TEST(Drawings, WithStraightEdgesAreThereOnEveryGrid)
+{
+    const QDir folder(QStringLiteral(":/condtree/wficons"));
+    const QStringList files = folder.entryList({QStringLiteral("*.svg")}, QDir::Files, QDir::Name);
+    ASSERT_GT(files.size(), 60);
+    int drawings = 0;
+    for (const QString& file : files) {
+        const QString name = file.chopped(4);
+        if (name.endsWith(QStringLiteral("-20")) || name.endsWith(QStringLiteral("-24"))) {
+            EXPECT_TRUE(files.contains(name.chopped(3) + QStringLiteral(".svg")))
+                << qPrintable(name);
+            continue;
+        }
+        ++drawings;
+        const bool isCurved = name == QStringLiteral("and") || name == QStringLiteral("or");
+        for (const char* const grid : {"-20.svg", "-24.svg"})
+            EXPECT_NE(files.contains(name + QLatin1String(grid)), isCurved)
+                << qPrintable(name) << grid;
+    }
+    EXPECT_EQ(drawings, 22);
+}
+
+TEST(Drawings, AreAsLargeAsTheGridThatTheyAreNamedAfter)
+{
+    const QDir folder(QStringLiteral(":/condtree/wficons"));
+    for (const QString& name : folder.entryList({QStringLiteral("*.svg")}, QDir::Files)) {
+        QFile file(folder.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        const int grid = name.endsWith(QStringLiteral("-20.svg"))   ? 20
+                         : name.endsWith(QStringLiteral("-24.svg")) ? 24
+                                                                    : 16;
+        const QByteArray size = QByteArray::number(grid);
+        EXPECT_TRUE(file.readAll().contains(' ' + size + ' ' + size + "\">")) << qPrintable(name);
+    }
 }
 
 TEST(MaskColour, ReplacesTheTransparentAndIsTakenFromAllElse)
