@@ -320,6 +320,8 @@ TEST_F(CloseUp, AChosenUserIsFoundAgainByTheShownName)
         expect(row, code, "JONES", "9 User | JONES | x op=101 arg=1 id=8 img=4");
     expect(row, 2001, "nobody", "9 User | nobody | x op=101 arg=1 id=0 img=4");
     expect(row, 2001, "smith", "9 User | smith | x op=101 arg=1 id=7 img=4", kHiddenSame);
+    expect({User, "User", "smith", "", 101, 1, -1, 99}, 2001, "smith",
+           "9 User | smith op=101 arg=1 id=7 img=4");
     showSecondNames();
     expect(row, 2001, "Ann Smith", "9 User | Ann Smith | x op=101 arg=1 id=7 img=4");
     expect(row, 2001, "jones", "9 User | jones | x op=101 arg=1 id=0 img=4");
