@@ -290,6 +290,9 @@ TEST_F(CloseUp, WithoutUsersOrGroupsTheRowHasNoValue)
     library->groups.clear();
     expect({NodePlaceholder}, 9, "User", "9 User op=100 img=6");
     expect({NodePlaceholder}, 10, "Group", "10 Group op=100 img=7");
+    expect({User, "User", "smith", "", 100, 1, -1, 7}, 9, "User", "9 User op=100 arg=1 id=7 img=6");
+    expect({Group, "Group", "Designers", "", 100, 1, -1, 3}, 10, "Group",
+           "10 Group op=100 arg=1 id=3 img=7");
 }
 
 TEST_F(CloseUp, UsersOrGroupsThatCannotBeLoadedLeaveTheRowHalfChanged)
