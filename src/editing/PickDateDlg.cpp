@@ -93,10 +93,7 @@ PickDateDlg::~PickDateDlg()
 void PickDateDlg::closeWhenLeft()
 {
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
-            [this](Qt::ApplicationState state) {
-                if (state != Qt::ApplicationActive)
-                    closeSoon();
-            });
+            &PickDateDlg::followApplication);
     connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow* window) {
         // The calendar has a menu of its own.
         if (window == nullptr || window->type() == Qt::Popup)
@@ -104,6 +101,19 @@ void PickDateDlg::closeWhenLeft()
         if (m_window.isNull() || window != m_window->windowHandle())
             closeSoon();
     });
+}
+
+// Some window systems take the focus from a window before they give it to its popup, and that is
+// not yet to leave the application.
+void PickDateDlg::followApplication(Qt::ApplicationState state)
+{
+    m_isAway = state != Qt::ApplicationActive;
+    const auto closeIfStillAway = [this] {
+        if (m_isAway)
+            close();
+    };
+    if (m_isAway)
+        QMetaObject::invokeMethod(this, closeIfStillAway, Qt::QueuedConnection);
 }
 
 // Not at once: what is being handled is finished first.

@@ -53,6 +53,7 @@ protected:
 
 private:
     void closeWhenLeft();
+    void followApplication(Qt::ApplicationState state);
     void closeSoon();
     void selectValue();
     void place();
@@ -64,6 +65,7 @@ private:
     std::function<void()> m_repaintCell;
     CMonthCalCtrlEx* m_calendar;
     bool m_isTelling = false;
+    bool m_isAway = false;      ///< another application is active
     QPointer<QWidget> m_window; ///< the one that the tree is in
 };
 

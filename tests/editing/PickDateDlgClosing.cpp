@@ -73,6 +73,33 @@ TEST_F(PickerClosing, APressOfAnyButtonOutsideClosesAndKeepsWhatWasStored)
     EXPECT_EQ(log.presses, 0); // it does nothing else
 }
 
+// Presses and releases arrive one by one, and the picker is gone in between.
+TEST_F(PickerClosing, TheReleaseAfterThePressThatClosesReachesNobody)
+{
+    const MouseLog log(*tree);
+    expectCloses("outside", [&] {
+        QTest::mousePress(window->windowHandle(), Qt::LeftButton, {}, kOutside);
+        QCoreApplication::processEvents();
+        EXPECT_FALSE(isOpen());
+        QTest::mouseRelease(window->windowHandle(), Qt::LeftButton, {}, kOutside);
+    });
+    cell = {60, 10, 160, 30};
+    expectCloses("twice on a day, over the tree", [&] {
+        const QPoint day = hand().day(1);
+        const QPoint below = window->mapFromGlobal(picker->mapToGlobal(day));
+        hand().click(day);
+        hand().press(day);
+        QCoreApplication::processEvents();
+        EXPECT_FALSE(isOpen());
+        QTest::mouseRelease(window->windowHandle(), Qt::LeftButton, {}, below);
+    });
+    EXPECT_EQ(log.presses, 0);
+    EXPECT_EQ(log.releases, 0);
+    QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, kOutside);
+    EXPECT_EQ(log.presses, 1);
+    EXPECT_EQ(log.releases, 1);
+}
+
 TEST_F(PickerClosing, APressOnTheBorderCloses)
 {
     expectCloses("border", [&] { hand().press(QPoint(0, 50)); });
@@ -149,8 +176,10 @@ TEST_F(PickerClosing, AnotherApplicationThatBecomesActiveCloses)
         });
         EXPECT_EQ(node->mValue, QStringLiteral("2024-03-20"));
     }
-    expectStaysOpen("this one",
-                    [&] { Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationActive); });
+    expectStaysOpen("away and back at once", [&] {
+        Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationInactive);
+        Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationActive);
+    });
 }
 
 TEST_F(PickerClosing, AnotherWindowThatBecomesActiveCloses)
