@@ -3,6 +3,10 @@
 #include <condtree/control/CondTreeCtrl.h>
 #include <condtree/control/RealServices.h>
 #include <condtree/editing/CMonthCalCtrlEx.h>
+#include <condtree/editing/ClassNameMessage.h>
+#include <condtree/editing/Completion.h>
+#include <condtree/editing/FocusEdit.h>
+#include <condtree/editing/FocusEditListener.h>
 #include <condtree/editing/PickDateDlg.h>
 #include <condtree/model/ComboCmd.h>
 #include <condtree/model/FocusEditValue.h>
