@@ -9,6 +9,7 @@
 #include <QMenu>
 
 #include <algorithm>
+#include <utility>
 
 namespace condtree {
 
@@ -180,12 +181,23 @@ void EditField::showMenu(QMenu* menu, const QPoint& globalPos)
 
 void EditField::menuClosed()
 {
-    // It took the focus, and did not give it back.
-    if (m_lostFocusToMenu && m_menu == nullptr) {
-        m_lostFocusToMenu = false;
-        if (!m_widget.hasFocus())
-            m_owner.focusLost();
-    }
+    if (!std::exchange(m_lostFocusToMenu, false))
+        return;
+    // Some window systems give the focus back a while after the menu is gone.
+    if (QApplication::focusWidget() != nullptr)
+        focusReturned(QApplication::focusWidget());
+    else
+        m_returning = QObject::connect(qApp, &QApplication::focusChanged, &m_widget,
+                                       [this](QWidget*, QWidget* now) { focusReturned(now); });
+}
+
+void EditField::focusReturned(const QWidget* now)
+{
+    if (now == nullptr)
+        return;
+    QObject::disconnect(m_returning);
+    if (now != &m_widget)
+        m_owner.focusLost();
 }
 
 void EditField::tellPasted(bool pasted)

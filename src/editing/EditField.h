@@ -108,12 +108,14 @@ private:
     /// None when the field is gone.
     std::optional<Characters> filtered(const CString& text, unsigned repeatCount, unsigned flags);
     void menuClosed();
+    void focusReturned(const QWidget* now);
 
     QWidget& m_widget;
     EditFieldOwner& m_owner;
     CString m_composed;
     QPointer<QMenu> m_menu;
     bool m_lostFocusToMenu = false;
+    QMetaObject::Connection m_returning;
 };
 
 } // namespace condtree

@@ -8,8 +8,6 @@
 #include <QImage>
 #include <QShortcut>
 
-#include <array>
-
 namespace condtree::test {
 namespace {
 
@@ -243,7 +241,7 @@ TEST_F(FocusEdits, KeepReturnEscapeAndTabFromTheDialog)
         EXPECT_EQ(editor->text(), multiLine ? QStringLiteral("kept\t") : QStringLiteral("kept"));
         EXPECT_TRUE(value->commits.empty()) << "Escape and Tab end nothing";
         pressIn(Qt::Key_Return);
-        EXPECT_TRUE(editor->isFinished());
+        expectClosed();
         EXPECT_EQ(value->commits.size(), 1U);
         value->commits.clear();
         EXPECT_TRUE(host.parent->hasFocus()) << "the focus stays beside the cell";

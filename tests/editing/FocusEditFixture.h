@@ -128,6 +128,9 @@ struct Around {
 /// An editor for a value, in a window.
 class FocusEdits : public testing::Test {
 protected:
+    FocusEdits() { QGuiApplication::setQuitOnLastWindowClosed(false); }
+    // Before listeners that a test made.
+    void TearDown() override { delete editor.data(); }
     /// Shown, and with the focus.
     void open(const CString& text = {})
     {

@@ -106,6 +106,7 @@ TEST_F(Pauses, NothingIsReportedWhileTheFirstTextIsBeingSet)
     editor->setText(QStringLiteral("second"));
     EXPECT_EQ(early.calls, 2);
     EXPECT_EQ(value->text, QStringLiteral("second"));
+    editor->removeListener(early);
 }
 
 TEST_F(Pauses, TellListenersBeforeAndAfterTheObjectIsUpdated)
