@@ -3,6 +3,7 @@
 #include <condtree/control/ChildRefConditions.h>
 #include <condtree/control/CondTreeParts.h>
 #include <condtree/control/ViewState.h>
+#include <condtree/editing/NodeChange.h>
 #include <condtree/platform/NativeText.h>
 #include <condtree/presentation/CustomDraw.h>
 #include <condtree/values/CommandCatalogue.h>
@@ -58,21 +59,21 @@ NMTVCUSTOMDRAW notification(const QWidget* from, QPainter* painter, const QRect&
 
 CondTreeCtrl::CondTreeCtrl(QWidget* parent, Services services)
     : QTreeView(parent)
-    , m_parts(std::make_shared<CondTreeParts>(this, std::move(services)))
+    , m_parts(std::make_shared<CondTreeParts>(*this, std::move(services)))
 {
     setUpView(*this);
     followDesktop();
     setItemDelegate(&m_parts->delegate);
     setModel(&m_parts->model);
-    connect(&m_parts->model, &ConditionModel::expandRequested, this, &QTreeView::expand);
-    connect(&m_parts->model, &ConditionModel::textsChanged, viewport(),
-            qOverload<>(&QWidget::update));
+    connectModel();
+    connectEditors();
 }
 
 // The tree goes now, also when an operation that shows a message still holds the parts: it sees
 // that it was overtaken.
 CondTreeCtrl::~CondTreeCtrl()
 {
+    m_parts->cells.shutDown();
     m_parts->model.remove(TVI_ROOT);
 }
 
@@ -295,6 +296,35 @@ void CondTreeCtrl::mvUpdateTypeName(VarTreeCtrlNode& node)
 int CondTreeCtrl::miGetImage(ComboCmd nodeCode)
 {
     return rowImageIndex(nodeCode);
+}
+
+int CondTreeCtrl::miGetColumn(POINT point, HTREEITEM item, RECT& cell)
+{
+    return m_parts->cells.columnAt(point, item, cell);
+}
+
+void CondTreeCtrl::mvAddComboCmd(ComboCmd command, const CString& text, int image, int position)
+{
+    const auto parts = m_parts;
+    parts->cells.lists().session().add(command, text, image, position);
+}
+
+void CondTreeCtrl::mvClearCombo()
+{
+    m_parts->cells.lists().clear();
+}
+
+void CondTreeCtrl::mvChangeNodeType(VarTreeCtrlNode& node, ComboCmd command)
+{
+    const auto parts = m_parts;
+    if (changeNodeType(node, command, parts->tree, parts->services.string))
+        parts->tree.invalidate();
+}
+
+void CondTreeCtrl::mvOnClickValue(VarTreeCtrlNode& node, int, RECT cell)
+{
+    const auto parts = m_parts;
+    parts->cells.clickValue(node, cell);
 }
 
 void CondTreeCtrl::OnNMCustomdraw(NMHDR* header, LRESULT* result)

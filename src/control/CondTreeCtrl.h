@@ -130,6 +130,30 @@ protected:
     /// The index of a row's picture, by its node code.
     static int miGetImage(ComboCmd nodeCode);
 
+    /// The column, 0 to 3, in which a point of the viewport lies within a row, by its share of the
+    /// row's width; -1 when it lies outside. cell becomes the column's cell, over which its editor
+    /// is placed, or else the row.
+    int miGetColumn(POINT point, HTREEITEM item, RECT& cell);
+    /// A click on the tree: opens the editor of the cell below the pointer, if it has one. header
+    /// is not looked at; result becomes 0.
+    virtual void OnNMClick(NMHDR* header, LRESULT* result);
+    /// Gives an open list what is typed and the turns of the wheel. False: the event then takes its
+    /// usual way.
+    virtual bool PreTranslateMessage(QEvent* event);
+    /// Adds an entry to the list that is open over a cell, at a position; image is its index in the
+    /// list's image list or -1. An operator's text is its name, and text its default. Nothing
+    /// without a list.
+    void mvAddComboCmd(ComboCmd command, const CString& text, int image, int position);
+    /// Takes the list away without applying anything.
+    void mvClearCombo();
+    /// The list over a cell was closed: applies what is selected in it to the clicked row.
+    virtual void OnComboCloseup();
+    /// Changes a row's kind or operator, and keeps its children, name and picture in step.
+    void mvChangeNodeType(VarTreeCtrlNode& node, ComboCmd command);
+    /// Opens the editor that suits a row's value over a cell of the viewport: a list, the date
+    /// picker, which is waited for, or the in-place editor. column is not looked at.
+    void mvOnClickValue(VarTreeCtrlNode& node, int column, RECT cell);
+
     /// The control's own drawing, by stages; header is an NMTVCUSTOMDRAW's. result may not be null.
     /// A subclass may draw otherwise: rows are told as the answers ask.
     virtual void OnNMCustomdraw(NMHDR* header, LRESULT* result);
@@ -140,8 +164,16 @@ protected:
     void drawRow(QPainter* painter, const QStyleOptionViewItem& option,
                  const QModelIndex& index) const override;
     void changeEvent(QEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void scrollContentsBy(int dx, int dy) override;
 
 private:
+    void connectModel();
+    void connectEditors();
     [[nodiscard]] std::function<LRESULT(NMTVCUSTOMDRAW&)> stage();
     void followDesktop();
 

@@ -5,6 +5,8 @@
 #include <condtree/presentation/CDPIHelper.h>
 #include <condtree/refdata/ErrorText.h>
 
+#include <utility>
+
 namespace condtree {
 
 namespace {
@@ -47,15 +49,17 @@ Services completed(Services ports)
 
 } // namespace
 
-CondTreeParts::CondTreeParts(QWidget* owner, Services ports)
+CondTreeParts::CondTreeParts(QTreeView& view, Services ports)
     : services(completed(std::move(ports)))
-    , messageOwner(owner)
+    , messageOwner(&view)
     , settings(manager, *services.registry)
     , reference(manager, [this](HRESULT code) { report(code); })
     , model(services.string, images)
     , loader(services.string, settings, reference, model)
     , saver(services.string, settings, reference.variables, model)
     , drawing(services, model, columns, images)
+    , tree(model)
+    , cells({view, services, manager, settings, reference, images, columns, model, tree})
 {
 }
 
@@ -75,6 +79,12 @@ QSize CondTreeParts::appendImages()
     const QSize size(services.systemMetric(SM_CXSMICON), services.systemMetric(SM_CYSMICON));
     images.append(*services.icons, size, services.bitsPerPixel());
     return images.rows() == nullptr ? size : images.rows()->imageSize();
+}
+
+POINT CondTreeParts::takeClick()
+{
+    const std::optional<POINT> click = std::exchange(clickedAt, std::nullopt);
+    return click ? *click : services.cursorPos();
 }
 
 void CondTreeParts::report(HRESULT code) const

@@ -1,10 +1,13 @@
 #pragma once
 
+#include <condtree/control/CellEditing.h>
 #include <condtree/control/ConditionLoader.h>
 #include <condtree/control/ConditionModel.h>
 #include <condtree/control/ConditionSaver.h>
 #include <condtree/control/DesktopPalette.h>
+#include <condtree/control/ModelTree.h>
 #include <condtree/control/RowDrawing.h>
+#include <condtree/editing/ClickTracker.h>
 #include <condtree/platform/Services.h>
 #include <condtree/presentation/ColumnShares.h>
 #include <condtree/presentation/ConditionImages.h>
@@ -15,13 +18,15 @@
 #include <QPointer>
 #include <QWidget>
 
+#include <optional>
+
 namespace condtree {
 
 /// The collaborators behind the control, each the owner of its data. None of them knows the
 /// control; members are in the order of what builds on what.
 struct CondTreeParts {
-    /// owner is the window over which messages are shown.
-    CondTreeParts(QWidget* owner, Services ports);
+    /// Messages are shown over view.
+    CondTreeParts(QTreeView& view, Services ports);
 
     Services services;
     QPointer<QWidget> messageOwner;
@@ -36,12 +41,19 @@ struct CondTreeParts {
     RowDrawing drawing;
     RowDelegate delegate;
     DesktopPalette palette;
+    ModelTree tree;
+    CellEditing cells;
+    ClickTracker clicks;
+    /// Where on the screen the click is that is being handled; none between clicks.
+    std::optional<POINT> clickedAt;
 
     /// Takes over a manager and the codes, and reads the settings.
     void setUp(SpMgr* newManager, LONG dateStyle, KiroVaultType vaultType, TreeType treeType);
     /// Appends the pictures to the image lists. The size of one picture, which the first call
     /// decides.
     QSize appendImages();
+    /// Where on the screen a click is that is told now: the one being handled, else the pointer.
+    [[nodiscard]] POINT takeClick();
     /// Shows the message of a result code and waits until it is closed. Nothing once the owner is
     /// gone.
     void report(HRESULT code) const;

@@ -1,0 +1,222 @@
+#include "CellEditing.h"
+
+#include <condtree/control/ConditionModel.h>
+#include <condtree/control/TreeGeometry.h>
+#include <condtree/editing/ValueLists.h>
+#include <condtree/platform/StoredProcs.h>
+#include <condtree/presentation/CDPIHelper.h>
+#include <condtree/presentation/RowLayout.h>
+#include <condtree/refdata/ControlSettings.h>
+#include <condtree/refdata/ErrorText.h>
+#include <condtree/refdata/ManagerRef.h>
+#include <condtree/refdata/OutOfMemory.h>
+#include <condtree/refdata/ReferenceData.h>
+
+#include <optional>
+#include <utility>
+#include <variant>
+
+namespace condtree {
+
+CellEditing::CellEditing(const CellEditingNeeds& needs)
+    : m_view(&needs.view)
+    , m_needs(needs)
+    , m_lists(needs.view, needs.services, needs.settings, needs.reference, needs.images, needs.tree)
+    , m_inPlace(needs.view, needs.services, needs.settings, needs.tree)
+{
+}
+
+int CellEditing::columnAt(POINT point, HTREEITEM item, RECT& cell) const
+{
+    const std::optional<RowPlace> place =
+        m_view.isNull() ? std::nullopt : placeOfRow(*m_view, m_needs.model.indexOf(item));
+    if (!place) {
+        cell = {};
+        return -1;
+    }
+    const RowLayout layout(place->row, place->textLeft, m_needs.columns,
+                           m_needs.services.systemMetric(SM_CXSMICON));
+    const int column = layout.columnOfPoint(point);
+    cell = layout.cellToEdit(column);
+    return column;
+}
+
+void CellEditing::click(POINT onScreen)
+{
+    m_lists.begin();
+    if (m_view.isNull())
+        return;
+    const QPoint at = m_view->viewport()->mapFromGlobal(QPoint(onScreen.x, onScreen.y));
+    const POINT point{at.x(), at.y()};
+    const TreeHit hit = hitTest(*m_view, m_needs.model, point);
+    VarTreeCtrlNode* node = m_needs.model.node(hit.item);
+    RECT cell{};
+    const int column = node == nullptr ? -1 : columnAt(point, hit.item, cell);
+    const ClickAction action = decideClick(hit.flags, node, m_needs.model.top(), column);
+    if (std::holds_alternative<IgnoreClick>(action))
+        return;
+    m_lists.setClicked(hit.item);
+    std::visit([&](const auto& what) { perform(what, *node, cell); }, action);
+}
+
+void CellEditing::perform(const IgnoreClick&, VarTreeCtrlNode&, const RECT&) {}
+
+void CellEditing::perform(const OpenNothing&, VarTreeCtrlNode&, const RECT&) {}
+
+RECT CellEditing::comboCellOf(const RECT& cell, int column) const
+{
+    CDPIHelper::get(); // the first one of the process makes it
+    return comboCell(cell, column, m_needs.services.systemMetric(SM_CXSMICON));
+}
+
+void CellEditing::perform(const OpenKindList&, VarTreeCtrlNode&, const RECT& cell)
+{
+    m_lists.openKinds(comboCellOf(cell, 0));
+}
+
+void CellEditing::perform(const OpenOperatorList&, VarTreeCtrlNode&, const RECT& cell)
+{
+    m_lists.openOperators(comboCellOf(cell, 1));
+}
+
+// An editor that is still open commits into the column that it was opened for.
+void CellEditing::perform(const OpenValueEditor&, VarTreeCtrlNode& node, const RECT& cell)
+{
+    const HTREEITEM item = node.mhItem;
+    m_inPlace.finish();
+    if (m_needs.tree.node(item) != &node)
+        return;
+    node.mlEditColumn = EditColumnValue;
+    clickValue(node, cell);
+}
+
+void CellEditing::perform(const OpenExtraEditor&, VarTreeCtrlNode& node, const RECT& cell)
+{
+    const HTREEITEM item = node.mhItem;
+    m_inPlace.finish();
+    if (m_needs.tree.node(item) != &node)
+        return;
+    node.mlEditColumn = EditColumnExtra;
+    m_inPlace.edit(node, cell);
+}
+
+void CellEditing::perform(const CloseExtraEditor&, VarTreeCtrlNode& node, const RECT&)
+{
+    const HTREEITEM item = node.mhItem;
+    m_inPlace.finish();
+    if (m_needs.tree.node(item) == &node)
+        node.mlEditColumn = EditColumnExtra;
+}
+
+void CellEditing::clickValue(VarTreeCtrlNode& node, const RECT& cell)
+{
+    const ValueEditorChoice choice = chooseValueEditor(
+        node.mlCode, node.mlOperator, m_needs.settings.vaultType, m_needs.manager.get() != nullptr);
+    if (const auto* list = std::get_if<OpenValueList>(&choice))
+        openValueList(*list, cell);
+    else if (std::holds_alternative<OpenDatePicker>(choice))
+        m_inPlace.pick(node, cell);
+    else if (std::holds_alternative<OpenInPlaceEditor>(choice))
+        m_inPlace.edit(node, cell);
+}
+
+void CellEditing::openValueList(const OpenValueList& list, RECT cell)
+{
+    cell.bottom += list.lowered;
+    if (list.list == ValueList::DocumentTypes) {
+        openDocumentTypes(cell);
+        return;
+    }
+    const HTREEITEM item = m_lists.clicked();
+    const SharedChoices values = valuesOf(list.list);
+    // A message about a list lets the host in, who may have taken the row away.
+    if (values != nullptr && m_lists.clicked() == item)
+        m_lists.openValues(cell, values);
+}
+
+/// Null when a list cannot be loaded.
+SharedChoices CellEditing::valuesOf(ValueList list)
+{
+    const auto made = [](ChoiceEntries entries) {
+        return std::make_shared<const ChoiceEntries>(std::move(entries));
+    };
+    ReferenceData& lists = m_needs.reference;
+    switch (list) {
+    case ValueList::ObjectTypes:
+        return made(objectTypeChoices(m_needs.settings.vaultType, m_needs.services.string));
+    case ValueList::YesNo:
+        return made(yesNoChoices(m_needs.services.string));
+    case ValueList::Users:
+        return lists.users.init()
+                   ? m_lists.cache().users(lists.users.list(), m_needs.settings.shownUserName())
+                   : nullptr;
+    case ValueList::Groups:
+        return lists.groups.init() ? m_lists.cache().groups(lists.groups.list()) : nullptr;
+    case ValueList::States:
+        return lists.states.mbInitWorkflowStates()
+                   ? m_lists.cache().states(lists.states, m_needs.services.string)
+                   : nullptr;
+    case ValueList::NoUsers:
+    case ValueList::NoGroups:
+    case ValueList::DocumentTypes:
+        break;
+    }
+    return made({});
+}
+
+// A failure is told before the list opens, which then has no entries.
+void CellEditing::openDocumentTypes(const RECT& cell)
+{
+    const HTREEITEM item = m_lists.clicked();
+    auto entries = std::make_shared<ChoiceEntries>();
+    const HRESULT code = fetchDocumentTypes(*entries);
+    if (FAILED(code))
+        m_needs.services.messageBox(
+            m_view.data(),
+            ResultCodeText(code, m_needs.services.string, m_needs.services.resultTexts.get()),
+            MB_ICONERROR);
+    if (m_lists.clicked() == item)
+        m_lists.openValues(cell, entries);
+}
+
+HRESULT CellEditing::fetchDocumentTypes(ChoiceEntries& entries) const
+{
+    auto* procedure = m_needs.manager.proc<SpDocType>(SPID_DOC_TYPE);
+    if (procedure == nullptr)
+        return S_OK;
+    try {
+        AutoLst<Lst<SpDocType::DocType*>> types;
+        const HRESULT code = raisingOutOfMemory([&] { return procedure->mhGetDocTypes(types); });
+        if (SUCCEEDED(code))
+            entries = docTypeChoices(types);
+        return code;
+    } catch (const _com_error& error) {
+        return error.Error();
+    }
+}
+
+void CellEditing::rowsMove()
+{
+    m_lists.close();
+    m_inPlace.finish();
+}
+
+void CellEditing::rowsGo()
+{
+    m_inPlace.finishMeanwhile();
+}
+
+void CellEditing::rowsGone()
+{
+    m_lists.forgetDeadRows();
+    m_inPlace.forgetDeadRows();
+}
+
+void CellEditing::shutDown()
+{
+    m_inPlace.shutDown();
+    m_lists.shutDown();
+    m_view.clear();
+}
+
+} // namespace condtree

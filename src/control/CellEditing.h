@@ -1,0 +1,74 @@
+#pragma once
+
+#include <condtree/control/InPlaceEditing.h>
+#include <condtree/control/ListEditing.h>
+#include <condtree/editing/ClickDecision.h>
+#include <condtree/editing/ValueEditorChoice.h>
+
+namespace condtree {
+
+class ColumnShares;
+class ConditionModel;
+class ManagerRef;
+class RowLayout;
+
+/// What the editors of cells need; all must outlive them, but for the view.
+struct CellEditingNeeds {
+    QTreeView& view;
+    const Services& services;
+    const ManagerRef& manager;
+    ControlSettings& settings;
+    ReferenceData& reference;
+    const ConditionImages& images;
+    const ColumnShares& columns;
+    const ConditionModel& model;
+    EditedTree& tree;
+};
+
+/// Opens the editor that a click on a cell asks for: a list, the in-place editor or the date
+/// picker.
+class CellEditing {
+public:
+    explicit CellEditing(const CellEditingNeeds& needs);
+
+    [[nodiscard]] ListEditing& lists() { return m_lists; }
+    [[nodiscard]] InPlaceEditing& inPlace() { return m_inPlace; }
+
+    /// The column, 0 to 3, of a row in which a point of the viewport lies, and its cell; -1, and
+    /// the row, when it lies outside. A handle that names no row gives -1 and an empty cell.
+    int columnAt(POINT point, HTREEITEM item, RECT& cell) const;
+    /// A click on a point of the screen.
+    void click(POINT onScreen);
+    /// Opens the editor of a row's value over a cell.
+    void clickValue(VarTreeCtrlNode& node, const RECT& cell);
+
+    /// The rows move: what is open over them finishes, or closes.
+    void rowsMove();
+    /// Rows are about to go.
+    void rowsGo();
+    /// Rows are gone.
+    void rowsGone();
+    /// The view goes.
+    void shutDown();
+
+private:
+    void perform(const IgnoreClick&, VarTreeCtrlNode& node, const RECT& cell);
+    void perform(const OpenNothing&, VarTreeCtrlNode& node, const RECT& cell);
+    void perform(const OpenKindList&, VarTreeCtrlNode& node, const RECT& cell);
+    void perform(const OpenOperatorList&, VarTreeCtrlNode& node, const RECT& cell);
+    void perform(const OpenValueEditor&, VarTreeCtrlNode& node, const RECT& cell);
+    void perform(const OpenExtraEditor&, VarTreeCtrlNode& node, const RECT& cell);
+    void perform(const CloseExtraEditor&, VarTreeCtrlNode& node, const RECT& cell);
+    [[nodiscard]] RECT comboCellOf(const RECT& cell, int column) const;
+    void openValueList(const OpenValueList& list, RECT cell);
+    [[nodiscard]] SharedChoices valuesOf(ValueList list);
+    void openDocumentTypes(const RECT& cell);
+    [[nodiscard]] HRESULT fetchDocumentTypes(ChoiceEntries& entries) const;
+
+    QPointer<QTreeView> m_view;
+    CellEditingNeeds m_needs;
+    ListEditing m_lists;
+    InPlaceEditing m_inPlace;
+};
+
+} // namespace condtree

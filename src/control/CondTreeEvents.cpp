@@ -1,0 +1,125 @@
+#include "CondTreeCtrl.h"
+
+#include <condtree/control/CondTreeParts.h>
+
+#include <QMouseEvent>
+#include <QPointer>
+
+// What the user's hand does to the control.
+namespace condtree {
+
+namespace {
+
+POINT pointOf(const QMouseEvent& event)
+{
+    const QPoint point = event.position().toPoint();
+    return {point.x(), point.y()};
+}
+
+POINT screenPointOf(const QMouseEvent& event)
+{
+    const QPoint point = event.globalPosition().toPoint();
+    return {point.x(), point.y()};
+}
+
+} // namespace
+
+// What is connected with the view as its context ends with it.
+void CondTreeCtrl::connectModel()
+{
+    const ConditionModel* model = &m_parts->model;
+    CellEditing* cells = &m_parts->cells;
+    connect(model, &ConditionModel::expandRequested, this, &QTreeView::expand);
+    connect(model, &ConditionModel::textsChanged, viewport(), qOverload<>(&QWidget::update));
+    connect(model, &QAbstractItemModel::rowsAboutToBeRemoved, this, [cells] { cells->rowsGo(); });
+    connect(model, &QAbstractItemModel::modelAboutToBeReset, this, [cells] { cells->rowsGo(); });
+    connect(model, &QAbstractItemModel::rowsRemoved, this, [cells] { cells->rowsGone(); });
+    connect(model, &QAbstractItemModel::modelReset, this, [cells] { cells->rowsGone(); });
+}
+
+void CondTreeCtrl::connectEditors()
+{
+    CellEditing& cells = m_parts->cells;
+    cells.lists().setHooks([this] { OnComboCloseup(); },
+                           [this](QEvent* event) { PreTranslateMessage(event); });
+    cells.inPlace().setHook([this] { Q_EMIT conditionChanged(); });
+}
+
+void CondTreeCtrl::OnNMClick(NMHDR*, LRESULT* result)
+{
+    *result = 0;
+    const auto parts = m_parts;
+    parts->cells.click(parts->takeClick());
+}
+
+void CondTreeCtrl::OnComboCloseup()
+{
+    const auto parts = m_parts;
+    const QPointer<CondTreeCtrl> self(this);
+    const bool isChanged = parts->cells.lists().closeUp();
+    if (isChanged && !self.isNull())
+        Q_EMIT conditionChanged();
+}
+
+bool CondTreeCtrl::PreTranslateMessage(QEvent* event)
+{
+    const auto parts = m_parts;
+    if (event->type() == QEvent::KeyPress || event->type() == QEvent::Wheel)
+        parts->cells.lists().forward(*event);
+    return false;
+}
+
+// The other buttons select nothing.
+void CondTreeCtrl::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton)
+        return;
+    m_parts->clicks.press(pointOf(*event));
+    QTreeView::mousePressEvent(event);
+}
+
+void CondTreeCtrl::mouseMoveEvent(QMouseEvent* event)
+{
+    m_parts->clicks.move(pointOf(*event));
+    QTreeView::mouseMoveEvent(event);
+}
+
+void CondTreeCtrl::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton)
+        return;
+    const auto parts = m_parts;
+    const QPointer<CondTreeCtrl> self(this);
+    const POINT onScreen = screenPointOf(*event);
+    const bool isClick = parts->clicks.release(pointOf(*event));
+    QTreeView::mouseReleaseEvent(event);
+    if (!isClick || self.isNull())
+        return;
+    parts->clickedAt = onScreen;
+    NMHDR header{this, 0, NM_CLICK};
+    LRESULT result = 0;
+    OnNMClick(&header, &result);
+}
+
+// The second press of a double click opens and closes groups, and is no click of its own.
+void CondTreeCtrl::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    m_parts->clicks.cancel();
+    QTreeView::mouseDoubleClickEvent(event);
+}
+
+void CondTreeCtrl::resizeEvent(QResizeEvent* event)
+{
+    const auto parts = m_parts;
+    parts->cells.rowsMove();
+    QTreeView::resizeEvent(event);
+}
+
+void CondTreeCtrl::scrollContentsBy(int dx, int dy)
+{
+    const auto parts = m_parts;
+    parts->cells.rowsMove();
+    QTreeView::scrollContentsBy(dx, dy);
+}
+
+} // namespace condtree
