@@ -83,7 +83,10 @@ bool CMonthCalCtrlEx::Presses::eventFilter(QObject* watched, QEvent* event)
         return !m_isSendingOn
                && onPress(static_cast<QWidget&>(*watched), static_cast<QMouseEvent&>(*event));
     case QEvent::KeyPress:
-        if (watched != m_grid || !isReturn(static_cast<QKeyEvent&>(*event)))
+        // In the field of the year, Return ends just the year.
+        if (watched != m_grid && watched != m_calendar.m_todayLink)
+            return false;
+        if (!isReturn(static_cast<QKeyEvent&>(*event)))
             return false;
         Q_EMIT m_calendar.finished();
         return true;
@@ -254,14 +257,6 @@ void CMonthCalCtrlEx::paintCell(QPainter* painter, const QRect& rect, QDate date
     QCalendarWidget::paintCell(painter, rect, date);
     if (date == m_today)
         drawTodayMark(*painter, rect, palette());
-}
-
-// Return in the field of the year ends there.
-void CMonthCalCtrlEx::keyPressEvent(QKeyEvent* event)
-{
-    if (isReturn(*event))
-        return;
-    QCalendarWidget::keyPressEvent(event);
 }
 
 } // namespace condtree

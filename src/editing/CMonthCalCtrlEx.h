@@ -40,7 +40,6 @@ Q_SIGNALS:
 
 protected:
     void paintCell(QPainter* painter, const QRect& rect, QDate date) const override;
-    void keyPressEvent(QKeyEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:

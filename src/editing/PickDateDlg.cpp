@@ -189,8 +189,7 @@ bool PickDateDlg::eventFilter(QObject* watched, QEvent* event)
 
 void PickDateDlg::mousePressEvent(QMouseEvent* event)
 {
-    // A press that closes the picker does nothing else.
-    setAttribute(Qt::WA_NoMouseReplay);
+    // Closed later, and so the press does nothing else: nobody sends it on to what is below.
     if (!m_calendar->geometry().contains(event->position().toPoint()))
         closeSoon();
 }

@@ -126,8 +126,7 @@ TEST_F(PickerLifetime, AMessageOfTheHostThatOpensMeanwhileClosesIt)
 
 TEST_F(PickerLifetime, APickerThatWasNeverOpenedCanBeDeletedAndOutliveItsTree)
 {
-    picker = new PickDateDlg(
-        tree, [this] { return node.get(); }, cell, style, ports.services(), [] {});
+    makePicker();
     window->hide();
     QCoreApplication::processEvents();
     EXPECT_FALSE(picker.isNull());
@@ -139,8 +138,8 @@ TEST_F(PickerLifetime, ATreeIsNotNeeded)
 {
     const ExpectWarning raise(QStringLiteral("does not support raise()"));
     const ExpectWarning grab(QStringLiteral("does not support grabbing the keyboard"));
-    picker = new PickDateDlg(
-        nullptr, [this] { return node.get(); }, cell, style, ports.services(), [] {});
+    tree = nullptr;
+    makePicker();
     QTimer::singleShot(0, [&] {
         hand().click(hand().day(20));
         hand().key(Qt::Key_Escape);

@@ -47,15 +47,19 @@ protected:
         EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
     }
 
+    void makePicker()
+    {
+        picker = new PickDateDlg(
+            tree, [this] { return node.get(); }, cell, style, ports.services(),
+            [this] { onStored(); });
+    }
     /// Opens the picker on a value and runs a script while it is open.
     void open(const QString& value, const std::function<void()>& script)
     {
         node->mValue = value;
         const ExpectWarning raise(QStringLiteral("does not support raise()"));
         const ExpectWarning grab(QStringLiteral("does not support grabbing the keyboard"));
-        picker = new PickDateDlg(
-            tree, [this] { return node.get(); }, cell, style, ports.services(),
-            [this] { onStored(); });
+        makePicker();
         bool hasRun = false;
         QTimer::singleShot(0, [&] {
             script();
