@@ -104,13 +104,10 @@ bool CMonthCalCtrlEx::Presses::onPress(const QWidget& watched, const QMouseEvent
     QWidget* const grid = m_grid->viewport();
     const QPoint inPart = event.position().toPoint();
     const QPoint point = watched.mapTo(&m_calendar, inPart);
-    const QWidget* const child = m_calendar.childAt(point);
-    // What a part does not take comes to those around it, too.
-    if (&watched != (child == nullptr ? &m_calendar : child))
-        return false;
     const bool isOnTarget =
         &watched == m_calendar.m_todayLink || (&watched == grid && isDay(inPart));
     m_calendar.m_isTold = false;
+    // What a part does not take comes to those around it, too, and is the same press once more.
     if (m_doubleClick.press({point.x(), point.y()}, isOnTarget, m_tickCount())) {
         // The first press may have turned the page: what is there now is not what was meant.
         Q_EMIT m_calendar.finished();
