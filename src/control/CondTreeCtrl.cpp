@@ -289,8 +289,9 @@ void CondTreeCtrl::mvSetDefaultSearchVal(VarTreeCtrlNode& node)
 
 void CondTreeCtrl::mvUpdateTypeName(VarTreeCtrlNode& node)
 {
-    m_parts->model.updateTypeName(node);
-    m_parts->model.tellTextsChanged();
+    const auto parts = m_parts;
+    parts->model.updateTypeName(node);
+    parts->model.tellTextsChanged();
 }
 
 int CondTreeCtrl::miGetImage(ComboCmd nodeCode)

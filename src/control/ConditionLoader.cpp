@@ -8,6 +8,7 @@
 #include <condtree/values/ValueTexts.h>
 
 #include <limits>
+#include <utility>
 
 namespace condtree {
 
@@ -45,13 +46,17 @@ void ConditionLoader::load(const std::vector<TransCond>& records, VarTreeCtrlNod
     std::optional<Rows> rows = makeRows(records, &closed == &top);
     if (!rows)
         return;
+    const HTREEITEM closedItem = closed.mhItem;
     {
         const ConditionModel::Bulk bulk(m_model);
         const std::size_t known = top.mChildren.size();
+        const bool isTop = &closed == &top;
         m_model.append(top, *std::move(rows));
-        close(closed, &closed == &top ? known : closed.mChildren.size());
+        if (!isThere(closedItem, closed))
+            return;
+        close(closed, isTop ? known : closed.mChildren.size());
     }
-    m_model.expand(closed.mhItem);
+    m_model.expand(closedItem);
 }
 
 void ConditionLoader::ensureTop(bool isCleared)
@@ -152,16 +157,25 @@ void ConditionLoader::setChildRefState(VarTreeCtrlNode& row, LONG id)
 
 /// Ends a level and its first knownChildren groups with their placeholders; groups behind have
 /// theirs.
+// Each placeholder's text lets the host in, who may delete what is not closed yet.
 void ConditionLoader::close(VarTreeCtrlNode& level, std::size_t knownChildren)
 {
-    const std::vector<VarTreeCtrlNode*> children(level.mChildren.begin(),
-                                                 level.mChildren.begin()
-                                                     + static_cast<std::ptrdiff_t>(knownChildren));
-    m_model.add(level, std::make_unique<VarTreeCtrlNode>(NodePlaceholder), false);
-    for (VarTreeCtrlNode* child : children) {
-        if (child->mlCode == NodeOr)
-            m_model.add(*child, std::make_unique<VarTreeCtrlNode>(NodePlaceholder), false);
+    std::vector<std::pair<HTREEITEM, VarTreeCtrlNode*>> levels{{level.mhItem, &level}};
+    for (std::size_t child = 0; child < knownChildren; ++child) {
+        if (level.mChildren[child]->mlCode == NodeOr)
+            levels.emplace_back(level.mChildren[child]->mhItem, level.mChildren[child]);
     }
+    for (const auto& [item, node] : levels) {
+        if (isThere(item, *node))
+            m_model.add(*node, std::make_unique<VarTreeCtrlNode>(NodePlaceholder), false);
+    }
+}
+
+/// Whether a node that had this handle is still what the handle names; one outside the tree, which
+/// has no handle, is its owner's.
+bool ConditionLoader::isThere(HTREEITEM item, const VarTreeCtrlNode& node) const
+{
+    return item == nullptr || m_model.node(item) == &node;
 }
 
 } // namespace condtree

@@ -39,6 +39,7 @@ private:
                                                         const Texts& texts);
     void setValue(VarTreeCtrlNode& row, const TransCond& record, const Texts& texts);
     void setChildRefState(VarTreeCtrlNode& row, LONG id);
+    [[nodiscard]] bool isThere(HTREEITEM item, const VarTreeCtrlNode& node) const;
     void close(VarTreeCtrlNode& level, std::size_t knownChildren);
 
     const StringSource& m_strings;

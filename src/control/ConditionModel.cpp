@@ -127,16 +127,18 @@ void ConditionModel::leave(VarTreeCtrlNode& node)
 
 ConditionModel::NodePtr ConditionModel::setTop(NodePtr node)
 {
-    const Bulk bulk(*this);
+    const std::vector<CString> labels = node ? typeLabels() : std::vector<CString>();
+    if (node)
+        updateTypeName(*node);
+    const Bulk bulk(*this); // the texts are the host's, who may ask for changes of his own
     ++m_revision;
     if (m_top)
         leave(*m_top);
     std::swap(m_top, node);
     if (m_top) {
-        updateTypeName(*m_top);
         m_top->mpParent = nullptr;
         m_top->mhItem = TVI_ROOT;
-        enterChildren(*m_top, typeLabels());
+        enterChildren(*m_top, labels);
     }
     return node;
 }
@@ -188,8 +190,11 @@ void ConditionModel::append(VarTreeCtrlNode& parent, std::vector<NodePtr> nodes)
 {
     if (nodes.empty())
         return;
-    requireRoomInList(parent.mChildren.size() + nodes.size() - 1, m_roomOfLevel);
+    const HTREEITEM parentItem = parent.mhItem;
     const std::vector<CString> labels = typeLabels();
+    if (node(parentItem) != &parent)
+        return; // the texts are the host's, who deleted the parent meanwhile
+    requireRoomInList(parent.mChildren.size() + nodes.size() - 1, m_roomOfLevel);
     const bool isTold = isShown(parent);
     int row = static_cast<int>(parent.mChildren.size());
     parent.mChildren.reserve(parent.mChildren.size() + nodes.size());
@@ -271,8 +276,15 @@ void ConditionModel::setImage(HTREEITEM item, int image)
 
 void ConditionModel::updateTypeName(VarTreeCtrlNode& node) const
 {
-    if (const TextRef* label = typeLabel(node.mlCode))
-        node.mName = label->from(m_strings);
+    const TextRef* label = typeLabel(node.mlCode);
+    if (label == nullptr)
+        return;
+    const HTREEITEM item = node.mhItem;
+    const bool isRow = this->node(item) == &node;
+    const CString text = label->from(m_strings);
+    // The text is the host's, who may have deleted the row meanwhile.
+    if (!isRow || this->node(item) == &node)
+        node.mName = text;
 }
 
 void ConditionModel::expand(HTREEITEM item)

@@ -102,6 +102,43 @@ TEST_F(ConditionModelTest, PlaceholdersAndGroupsTakeTheirLabelsOtherNodesKeepThe
         EXPECT_EQ(add("x", code).mName, QStringLiteral("x"));
 }
 
+// The string library is the host's, who may change the tree when asked for a text.
+TEST_F(ConditionModelTest, ARowDeletedWhileItsLabelIsFetchedIsNotTouched)
+{
+    VarTreeCtrlNode& doomed = add("a", NodeOr);
+    m_strings = [this](LONG, const char16_t*, const char16_t*, const char16_t*) {
+        m_model.remove(TVI_ROOT);
+        return QStringLiteral("late");
+    };
+    m_model.updateTypeName(doomed);
+    EXPECT_EQ(m_model.top(), nullptr);
+}
+
+TEST_F(ConditionModelTest, RowsAppendedToALevelThatIsDeletedMeanwhileGoWithIt)
+{
+    VarTreeCtrlNode& level = add("a", NodeOr);
+    m_strings = [this](LONG, const char16_t*, const char16_t*, const char16_t*) {
+        m_model.remove(TVI_ROOT);
+        return QStringLiteral("late");
+    };
+    std::vector<ConditionModel::NodePtr> nodes;
+    nodes.push_back(row("b", NodeVariable));
+    m_model.append(level, std::move(nodes));
+    EXPECT_EQ(m_model.top(), nullptr);
+}
+
+TEST_F(ConditionModelTest, ATopSetWhileTheHostClearsTheTreeStandsAllTheSame)
+{
+    add("a");
+    m_strings = [this](LONG, const char16_t*, const char16_t*, const char16_t*) {
+        m_model.remove(TVI_ROOT);
+        return QStringLiteral("late");
+    };
+    EXPECT_EQ(m_model.setTop(row("", NodeAnd)), nullptr) << "the top before it is gone already";
+    ASSERT_NE(m_model.top(), nullptr);
+    EXPECT_EQ(m_model.top()->mName, QStringLiteral("late"));
+}
+
 TEST_F(ConditionModelTest, UpdateTypeNameFollowsTheCode)
 {
     VarTreeCtrlNode& node = add("kept");
