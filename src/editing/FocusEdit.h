@@ -27,7 +27,8 @@ class EditField;
 ///
 /// The edited object must live until the edit is finished. Whoever destroys it calls finish()
 /// before, or abandon(). An editor whose parent is being destroyed commits nothing, since the
-/// object may have been a part of it.
+/// object may have been a part of it. In an edit that ends because it is hidden, only deleteLater()
+/// may be used on the editor and the widgets around it: the toolkit is still hiding them.
 ///
 /// A line keeps all characters that are set, typed or pasted, line breaks and control characters
 /// included, and has no limit of length. Tab leaves a single-line editor as it is, and enters a tab

@@ -76,13 +76,6 @@ protected:
              [] { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }},
         };
     }
-    void showAgain()
-    {
-        around.parent->show();
-        around.window->show();
-        around.window->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(around.window.get()));
-    }
 };
 
 TEST_F(Finishing, CommitsOnceWhateverComesAfterWhat)
@@ -106,7 +99,7 @@ TEST_F(Finishing, CommitsOnceWhateverComesAfterWhat)
             EXPECT_EQ(counter.text, QStringLiteral("new"));
             EXPECT_LE(finished.count(), 1);
             expectClosed();
-            showAgain();
+            around = Around();
         }
     }
 }

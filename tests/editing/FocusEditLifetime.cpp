@@ -61,10 +61,9 @@ protected:
             {"set by losing the focus",
              [this, act] {
                  value->onSet = act;
-                 QWidget other;
-                 other.show();
-                 other.activateWindow();
-                 EXPECT_TRUE(QTest::qWaitForWindowActive(&other));
+                 // Alone: the toolkit's own code around it does not survive its window.
+                 QFocusEvent lost(QEvent::FocusOut, Qt::MouseFocusReason);
+                 QApplication::sendEvent(field, &lost);
              }},
             {"a listener",
              [this, act] {
@@ -245,12 +244,12 @@ TEST_F(Lifetimes, AHostMayDieWithWhatIsEdited)
     }
 }
 
-TEST_F(Lifetimes, AParentThatIsNoMoreThanAWidgetCommitsAsItGoes)
+TEST_F(Lifetimes, AParentThatIsDeletedCommitsNothing)
 {
     open(QStringLiteral("old"));
     type("new");
     delete around.parent;
-    EXPECT_EQ(value->commits, std::vector<CString>{QStringLiteral("new")});
+    EXPECT_TRUE(value->commits.empty());
     EXPECT_EQ(editor, nullptr);
 }
 
