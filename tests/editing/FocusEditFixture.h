@@ -110,8 +110,9 @@ struct Timers {
 /// What an editor lies in: a window with a parent for the editor and another widget beside it.
 struct Around {
     std::unique_ptr<QWidget> window = std::make_unique<QWidget>();
-    QWidget* parent = new QWidget(window.get());
+    // The first to get a focus that nobody is given.
     QLineEdit* beside = new QLineEdit(window.get());
+    QWidget* parent = new QWidget(window.get());
 
     Around()
     {
