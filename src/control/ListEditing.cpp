@@ -50,6 +50,8 @@ CommandCombo* ListEditing::make(const RECT& cell, const ImgLst* images)
     if (m_view.isNull())
         return nullptr;
     CommandCombo& combo = m_session.create(m_view->viewport(), cell, m_services, images);
+    if (const VarTreeCtrlNode* node = m_tree.node(m_clicked))
+        combo.setAccessibleName(node->mName);
     QObject::connect(&combo, &CommandCombo::closedUp, m_view.data(), [this] {
         m_input.leave();
         m_closedUp();

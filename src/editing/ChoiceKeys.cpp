@@ -11,7 +11,6 @@ namespace {
 
 constexpr char16_t kBehindText = 0xFFFF;
 constexpr char32_t kNoCharacter = QChar::ReplacementCharacter;
-constexpr char32_t kFirstAfterAscii = 0x80;
 constexpr char32_t kPlaneSize = 0x10000;
 
 // The marks of Latin, Greek and Cyrillic letters alone: elsewhere a mark makes another letter.
@@ -53,7 +52,8 @@ public:
 
     void append(QStringView text, std::u16string& out)
     {
-        for (qsizetype i = 0; i < text.size(); ++i) {
+        qsizetype i = appendSimple(text, out);
+        for (; i < text.size(); ++i) {
             const QChar unit = text[i];
             if (unit.isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate())
                 out += foldedPoint(QChar::surrogateToUcs4(unit, text[++i]));
@@ -63,12 +63,26 @@ public:
     }
 
 private:
+    /// Appends the units at the beginning that become one unit each; how many there are.
+    qsizetype appendSimple(QStringView text, std::u16string& out)
+    {
+        const std::size_t before = out.size();
+        out.resize(before + static_cast<std::size_t>(text.size()));
+        char16_t* next = out.data() + before;
+        qsizetype done = 0;
+        for (const QChar unit : text) {
+            const char32_t folded = m_known[unit.unicode()];
+            if (folded == 0 || folded >= kPlaneSize)
+                break;
+            *next++ = static_cast<char16_t>(folded);
+            ++done;
+        }
+        out.resize(before + static_cast<std::size_t>(done));
+        return done;
+    }
+
     void appendUnit(char16_t unit, std::u16string& out)
     {
-        if (unit < kFirstAfterAscii) {
-            out.push_back(unit >= u'A' && unit <= u'Z' ? char16_t(unit + (u'a' - u'A')) : unit);
-            return;
-        }
         if (m_known[unit] == 0)
             learn(unit);
         if (m_known[unit] < kPlaneSize)
@@ -106,6 +120,10 @@ QString searchKey(QStringView text)
 ChoiceKeys::ChoiceKeys(const ChoiceEntries& entries)
 {
     Folder folder;
+    std::size_t units = entries.size();
+    for (const ChoiceEntry& entry : entries)
+        units += static_cast<std::size_t>(entry.text.size());
+    m_block.reserve(units);
     m_ends.reserve(entries.size());
     for (const ChoiceEntry& entry : entries) {
         folder.append(entry.text, m_block);

@@ -89,16 +89,34 @@ CString ComboSession::shownText(LONG code, const CString& text) const
                    : text;
 }
 
+// The names of the operators' numbers that these entries bear, where the user's language has one:
+// asked for once a number, since a list may be long.
+std::map<LONG, CString> ComboSession::namesOf(const ChoiceEntries& entries) const
+{
+    std::map<LONG, CString> names;
+    for (const ChoiceEntry& entry : entries) {
+        if (isNamed(entry.code))
+            names.try_emplace(entry.code);
+    }
+    for (auto& [code, name] : names)
+        name = shownText(code, CString());
+    return names;
+}
+
 // The entries themselves where none of them is named otherwise.
 SharedChoices ComboSession::named(const SharedChoices& entries) const
 {
-    const auto isNamedEntry = [](const ChoiceEntry& entry) { return isNamed(entry.code); };
-    if (std::none_of(entries->begin(), entries->end(), isNamedEntry))
-        return entries;
     const SharedChoices original = entries;
+    const std::map<LONG, CString> names = namesOf(*original);
+    const auto isNameless = [](const auto& name) { return name.second.isEmpty(); };
+    if (std::all_of(names.begin(), names.end(), isNameless))
+        return original;
     auto copy = std::make_shared<ChoiceEntries>(*original);
-    for (ChoiceEntry& entry : *copy)
-        entry.text = shownText(entry.code, entry.text);
+    for (ChoiceEntry& entry : *copy) {
+        const auto name = names.find(entry.code);
+        if (name != names.end() && !name->second.isEmpty())
+            entry.text = name->second;
+    }
     return copy;
 }
 

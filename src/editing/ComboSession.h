@@ -51,6 +51,7 @@ public:
 
 private:
     [[nodiscard]] CString shownText(LONG code, const CString& text) const;
+    [[nodiscard]] std::map<LONG, CString> namesOf(const ChoiceEntries& entries) const;
     [[nodiscard]] SharedChoices named(const SharedChoices& entries) const;
     [[nodiscard]] const TailKeys& keysOf(const SharedChoices& tail);
     void remember(const ChoiceEntries& entries, int firstIndex);

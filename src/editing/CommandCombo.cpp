@@ -44,6 +44,19 @@ public:
     }
 };
 
+/// A line that can be seen on a light and on a dark ground; not every style draws one.
+void frame(QFrame& popup, QPalette palette)
+{
+    const QColor text = palette.color(QPalette::Text);
+    const QColor base = palette.color(QPalette::Base);
+    palette.setColor(QPalette::WindowText,
+                     QColor((text.red() + base.red()) / 2, (text.green() + base.green()) / 2,
+                            (text.blue() + base.blue()) / 2));
+    popup.setPalette(palette);
+    popup.setFrameStyle(int(QFrame::Box) | int(QFrame::Plain));
+    popup.setLineWidth(1);
+}
+
 bool isPopup(const QObject* object)
 {
     return object->isWidgetType() && static_cast<const QWidget*>(object)->windowType() == Qt::Popup;
@@ -153,9 +166,10 @@ void CommandCombo::select(int index)
         showSearch(selection());
 }
 
-QWidget& CommandCombo::popup() const
+// The toolkit's frame around the view.
+QFrame& CommandCombo::popup() const
 {
-    return *m_view->window();
+    return static_cast<QFrame&>(*m_view->window());
 }
 
 void CommandCombo::dropDown()
@@ -168,9 +182,10 @@ void CommandCombo::showPopup()
 {
     if (m_isDropped || m_isRetired)
         return;
-    const int frame = 2 * static_cast<const QFrame&>(popup()).frameWidth();
+    frame(popup(), palette());
+    const int edges = 2 * popup().frameWidth();
     const int widest = screen()->availableGeometry().width();
-    m_view->setMinimumWidth(std::clamp(std::max(m_droppedWidth, width()), frame, widest) - frame);
+    m_view->setMinimumWidth(std::clamp(std::max(m_droppedWidth, width()), edges, widest) - edges);
     m_view->selectionModel()->clear();
     m_sinceTyped.invalidate();
     m_isDropped = true;
@@ -184,8 +199,8 @@ void CommandCombo::showPopup()
 
 void CommandCombo::showEmptyPopup()
 {
-    QWidget& box = popup();
-    const int height = m_view->rowHeight() + 2 * static_cast<const QFrame&>(box).frameWidth();
+    QFrame& box = popup();
+    const int height = m_view->rowHeight() + 2 * box.frameWidth();
     const QRect room = screen()->availableGeometry();
     const QPoint below = mapToGlobal(rect().bottomLeft());
     const bool fits = below.y() + height <= room.bottom() + 1;

