@@ -2,8 +2,6 @@
 
 #include <condtree/storedprocs/SpConnect.h>
 
-#include <QApplication>
-
 #include <algorithm>
 #include <array>
 
@@ -168,14 +166,6 @@ Outcome<ConditionRecords> ConditionControl::records()
     for (const TransCond& cond : conds)
         records.push_back(toRecord(cond));
     return records;
-}
-
-void ConditionControl::commitEditor()
-{
-    // Editors commit when they lose the focus.
-    const QWidget* focus = QApplication::focusWidget();
-    if (focus != nullptr && focus != this && isAncestorOf(focus))
-        setFocus();
 }
 
 } // namespace condtree::workbench

@@ -30,9 +30,6 @@ public:
     /// values are not known then, so that the records must not be stored.
     [[nodiscard]] Outcome<ConditionRecords> records();
 
-    /// Makes an editor that stands open in a row commit what was typed.
-    void commitEditor();
-
 private:
     struct Messages;
     class Collecting;

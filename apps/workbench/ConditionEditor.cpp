@@ -82,7 +82,7 @@ MaybeFailure ConditionEditor::save()
 {
     if (!m_transition)
         return Failure{tr("There is no transition to save.")};
-    m_control->commitEditor();
+    m_control->finishEditing();
     const Outcome<ConditionRecords> records = m_control->records();
     if (!records.hasValue())
         return records.failure();
@@ -114,7 +114,7 @@ MaybeFailure ConditionEditor::importJson(const QByteArray& json)
 
 Outcome<QByteArray> ConditionEditor::exportJson()
 {
-    m_control->commitEditor();
+    m_control->finishEditing();
     const Outcome<ConditionRecords> records = m_control->records();
     if (!records.hasValue())
         return records.failure();

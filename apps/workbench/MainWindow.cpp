@@ -179,7 +179,7 @@ void MainWindow::openChosen(int id)
 
 bool MainWindow::mayLeave()
 {
-    m_editor->control().commitEditor();
+    m_editor->control().finishEditing();
     if (!m_editor->isUnsaved())
         return true;
     const QPointer<MainWindow> alive(this);
@@ -206,7 +206,7 @@ bool MainWindow::trySave()
 
 void MainWindow::save()
 {
-    m_editor->control().commitEditor();
+    m_editor->control().finishEditing();
     if (m_editor->isUnsaved())
         trySave();
     else
@@ -215,7 +215,7 @@ void MainWindow::save()
 
 void MainWindow::revert()
 {
-    m_editor->control().commitEditor();
+    m_editor->control().finishEditing();
     const SpTransition transition = *m_editor->transition();
     const QPointer<MainWindow> alive(this);
     if (m_editor->isUnsaved() && !askBeforeReverting(this, transitionTitle(transition)))

@@ -2,21 +2,37 @@
 
 #include <condtree/control/ConditionModel.h>
 #include <condtree/control/TreeGeometry.h>
+#include <condtree/editing/NodeWatch.h>
 #include <condtree/editing/ValueLists.h>
 #include <condtree/platform/StoredProcs.h>
 #include <condtree/presentation/CDPIHelper.h>
-#include <condtree/presentation/RowLayout.h>
 #include <condtree/refdata/ControlSettings.h>
 #include <condtree/refdata/ErrorText.h>
 #include <condtree/refdata/ManagerRef.h>
 #include <condtree/refdata/OutOfMemory.h>
 #include <condtree/refdata/ReferenceData.h>
 
-#include <optional>
+#include <QKeyEvent>
+
 #include <utility>
 #include <variant>
 
 namespace condtree {
+
+namespace {
+
+constexpr int kValueColumn = 2;
+
+// Not a blank, which selects.
+bool typesCharacter(const QKeyEvent& key)
+{
+    constexpr auto kCommands = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+    const CString text = key.text();
+    return !text.isEmpty() && text.front().isPrint() && !text.front().isSpace()
+           && (key.modifiers() & kCommands) == 0;
+}
+
+} // namespace
 
 CellEditing::CellEditing(const CellEditingNeeds& needs)
     : m_view(&needs.view)
@@ -26,18 +42,21 @@ CellEditing::CellEditing(const CellEditingNeeds& needs)
 {
 }
 
-int CellEditing::columnAt(POINT point, HTREEITEM item, RECT& cell) const
+std::optional<RowLayout> CellEditing::layoutOf(HTREEITEM item) const
 {
     const std::optional<RowPlace> place =
         m_view.isNull() ? std::nullopt : placeOfRow(*m_view, m_needs.model.indexOf(item));
-    if (!place) {
-        cell = {};
-        return -1;
-    }
-    const RowLayout layout(place->row, place->textLeft, m_needs.columns,
-                           m_needs.services.systemMetric(SM_CXSMICON));
-    const int column = layout.columnOfPoint(point);
-    cell = layout.cellToEdit(column);
+    if (!place)
+        return std::nullopt;
+    return RowLayout(place->row, place->textLeft, m_needs.columns,
+                     m_needs.services.systemMetric(SM_CXSMICON));
+}
+
+int CellEditing::columnAt(POINT point, HTREEITEM item, RECT& cell) const
+{
+    const std::optional<RowLayout> layout = layoutOf(item);
+    const int column = layout ? layout->columnOfPoint(point) : -1;
+    cell = layout ? layout->cellToEdit(column) : RECT{};
     return column;
 }
 
@@ -56,7 +75,11 @@ void CellEditing::click(POINT onScreen)
     if (std::holds_alternative<IgnoreClick>(action))
         return;
     m_lists.setClicked(hit.item);
-    std::visit([&](const auto& what) { perform(what, *node, cell); }, action);
+    // An editor that is still open commits into the column that it was opened for.
+    if (!std::holds_alternative<OpenNothing>(action))
+        m_inPlace.finish();
+    if (m_needs.model.node(hit.item) == node)
+        std::visit([&](const auto& what) { perform(what, *node, cell); }, action);
 }
 
 void CellEditing::perform(const IgnoreClick&, VarTreeCtrlNode&, const RECT&) {}
@@ -79,45 +102,71 @@ void CellEditing::perform(const OpenOperatorList&, VarTreeCtrlNode&, const RECT&
     m_lists.openOperators(comboCellOf(cell, 1));
 }
 
-// An editor that is still open commits into the column that it was opened for.
 void CellEditing::perform(const OpenValueEditor&, VarTreeCtrlNode& node, const RECT& cell)
 {
-    const HTREEITEM item = node.mhItem;
-    m_inPlace.finish();
-    if (m_needs.tree.node(item) != &node)
-        return;
     node.mlEditColumn = EditColumnValue;
     clickValue(node, cell);
 }
 
 void CellEditing::perform(const OpenExtraEditor&, VarTreeCtrlNode& node, const RECT& cell)
 {
-    const HTREEITEM item = node.mhItem;
-    m_inPlace.finish();
-    if (m_needs.tree.node(item) != &node)
-        return;
     node.mlEditColumn = EditColumnExtra;
-    m_inPlace.edit(node, cell);
+    m_lists.dismiss();
+    m_inPlace.edit(node, cell, node.mExtra);
 }
 
 void CellEditing::perform(const CloseExtraEditor&, VarTreeCtrlNode& node, const RECT&)
 {
-    const HTREEITEM item = node.mhItem;
-    m_inPlace.finish();
-    if (m_needs.tree.node(item) == &node)
-        node.mlEditColumn = EditColumnExtra;
+    node.mlEditColumn = EditColumnExtra;
+}
+
+ValueEditorChoice CellEditing::valueEditorOf(const VarTreeCtrlNode& node) const
+{
+    return chooseValueEditor(node.mlCode, node.mlOperator, m_needs.settings.vaultType,
+                             m_needs.manager.get() != nullptr);
 }
 
 void CellEditing::clickValue(VarTreeCtrlNode& node, const RECT& cell)
 {
-    const ValueEditorChoice choice = chooseValueEditor(
-        node.mlCode, node.mlOperator, m_needs.settings.vaultType, m_needs.manager.get() != nullptr);
-    if (const auto* list = std::get_if<OpenValueList>(&choice))
+    const NodeWatch watch(m_needs.tree, node);
+    m_inPlace.finish();
+    if (m_view.isNull() || !watch.isThere())
+        return;
+    const ValueEditorChoice choice = valueEditorOf(node);
+    if (const auto* list = std::get_if<OpenValueList>(&choice)) {
         openValueList(*list, cell);
-    else if (std::holds_alternative<OpenDatePicker>(choice))
+    } else if (std::holds_alternative<OpenDatePicker>(choice)) {
+        m_lists.dismiss();
         m_inPlace.pick(node, cell);
-    else if (std::holds_alternative<OpenInPlaceEditor>(choice))
-        m_inPlace.edit(node, cell);
+    } else if (std::holds_alternative<OpenInPlaceEditor>(choice)) {
+        m_lists.dismiss();
+        editValue(node, cell);
+    }
+}
+
+void CellEditing::editValue(VarTreeCtrlNode& node, const RECT& cell)
+{
+    node.mlEditColumn = EditColumnValue;
+    m_inPlace.edit(node, cell, node.mValue);
+}
+
+bool CellEditing::typeDate(const QKeyEvent& key)
+{
+    // What comes from a child was typed into another widget.
+    if (m_view.isNull() || !m_view->hasFocus() || !typesCharacter(key))
+        return false;
+    const QModelIndex current = m_view->currentIndex();
+    VarTreeCtrlNode* node = m_needs.model.node(m_needs.model.itemOf(current));
+    if (node == nullptr || !std::holds_alternative<OpenDatePicker>(valueEditorOf(*node)))
+        return false;
+    m_view->scrollTo(current);
+    const std::optional<RowLayout> layout = layoutOf(node->mhItem);
+    if (!layout)
+        return false;
+    m_lists.dismiss();
+    editValue(*node, layout->cellToEdit(kValueColumn));
+    m_inPlace.type(key);
+    return true;
 }
 
 void CellEditing::openValueList(const OpenValueList& list, RECT cell)
@@ -198,7 +247,7 @@ HRESULT CellEditing::fetchDocumentTypes(ChoiceEntries& entries) const
 void CellEditing::rowsMove()
 {
     m_lists.close();
-    m_inPlace.finish();
+    m_inPlace.finishMeanwhile();
 }
 
 void CellEditing::rowsGo()

@@ -4,13 +4,17 @@
 #include <condtree/control/ListEditing.h>
 #include <condtree/editing/ClickDecision.h>
 #include <condtree/editing/ValueEditorChoice.h>
+#include <condtree/presentation/RowLayout.h>
+
+#include <optional>
+
+class QKeyEvent;
 
 namespace condtree {
 
 class ColumnShares;
 class ConditionModel;
 class ManagerRef;
-class RowLayout;
 
 /// What the editors of cells need; all must outlive them, but for the view.
 struct CellEditingNeeds {
@@ -39,8 +43,11 @@ public:
     int columnAt(POINT point, HTREEITEM item, RECT& cell) const;
     /// A click on a point of the screen.
     void click(POINT onScreen);
-    /// Opens the editor of a row's value over a cell.
+    /// Opens the editor of a node's value over a cell. The node may be outside the tree.
     void clickValue(VarTreeCtrlNode& node, const RECT& cell);
+    /// A key that the view got. A character on a row whose value is picked from a calendar begins
+    /// to replace the value, in the in-place editor. False for other keys and rows.
+    bool typeDate(const QKeyEvent& key);
 
     /// The rows move: what is open over them finishes, or closes.
     void rowsMove();
@@ -59,7 +66,10 @@ private:
     void perform(const OpenValueEditor&, VarTreeCtrlNode& node, const RECT& cell);
     void perform(const OpenExtraEditor&, VarTreeCtrlNode& node, const RECT& cell);
     void perform(const CloseExtraEditor&, VarTreeCtrlNode& node, const RECT& cell);
+    [[nodiscard]] std::optional<RowLayout> layoutOf(HTREEITEM item) const;
+    [[nodiscard]] ValueEditorChoice valueEditorOf(const VarTreeCtrlNode& node) const;
     [[nodiscard]] RECT comboCellOf(const RECT& cell, int column) const;
+    void editValue(VarTreeCtrlNode& node, const RECT& cell);
     void openValueList(const OpenValueList& list, RECT cell);
     [[nodiscard]] SharedChoices valuesOf(ValueList list);
     void openDocumentTypes(const RECT& cell);

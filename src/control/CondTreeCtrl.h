@@ -54,6 +54,11 @@ public:
     void mvSave(std::vector<TransCond>& records, VarTreeCtrlNode* node = nullptr,
                 bool alterArguments = false);
 
+    /// Commits what was typed into an editor that stands open in a cell, closes it, and has told of
+    /// the change when it returns. For hosts that save at a key, which leaves the focus where it
+    /// is.
+    void finishEditing();
+
     /// Adds a node, with whatever lies below it, as the first or the last child of parent, and
     /// takes ownership of it. With parent null it becomes the top node; the top node before it, if
     /// any, goes back to the caller, out of the tree. The node's item.
@@ -151,7 +156,8 @@ protected:
     /// Changes a row's kind or operator, and keeps its children, name and picture in step.
     void mvChangeNodeType(VarTreeCtrlNode& node, ComboCmd command);
     /// Opens the editor that suits a row's value over a cell of the viewport: a list, the date
-    /// picker, which is waited for, or the in-place editor. column is not looked at.
+    /// picker, which is waited for, or the in-place editor. column is not looked at. A node that is
+    /// no row must outlive the editor.
     void mvOnClickValue(VarTreeCtrlNode& node, int column, RECT cell);
 
     /// The control's own drawing, by stages; header is an NMTVCUSTOMDRAW's. result may not be null.
@@ -168,6 +174,8 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
+    /// A character that is typed on a row with a date begins to replace the date.
+    void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
 

@@ -2,6 +2,7 @@
 
 #include <condtree/control/CondTreeParts.h>
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPointer>
 
@@ -35,6 +36,10 @@ void CondTreeCtrl::connectModel()
     connect(model, &QAbstractItemModel::modelAboutToBeReset, this, [cells] { cells->rowsGo(); });
     connect(model, &QAbstractItemModel::rowsRemoved, this, [cells] { cells->rowsGone(); });
     connect(model, &QAbstractItemModel::modelReset, this, [cells] { cells->rowsGone(); });
+    // Rows below move, and what is open over them stands over others.
+    connect(model, &QAbstractItemModel::rowsInserted, this, [cells] { cells->rowsMove(); });
+    connect(this, &QTreeView::expanded, this, [cells] { cells->rowsMove(); });
+    connect(this, &QTreeView::collapsed, this, [cells] { cells->rowsMove(); });
 }
 
 void CondTreeCtrl::connectEditors()
@@ -59,6 +64,12 @@ void CondTreeCtrl::OnComboCloseup()
     const bool isChanged = parts->cells.lists().closeUp();
     if (isChanged && !self.isNull())
         Q_EMIT conditionChanged();
+}
+
+void CondTreeCtrl::finishEditing()
+{
+    const auto parts = m_parts;
+    parts->cells.inPlace().settle();
 }
 
 bool CondTreeCtrl::PreTranslateMessage(QEvent* event)
@@ -106,6 +117,13 @@ void CondTreeCtrl::mouseDoubleClickEvent(QMouseEvent* event)
 {
     m_parts->clicks.cancel();
     QTreeView::mouseDoubleClickEvent(event);
+}
+
+void CondTreeCtrl::keyPressEvent(QKeyEvent* event)
+{
+    const auto parts = m_parts;
+    if (!parts->cells.typeDate(*event))
+        QTreeView::keyPressEvent(event);
 }
 
 void CondTreeCtrl::resizeEvent(QResizeEvent* event)

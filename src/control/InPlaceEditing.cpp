@@ -3,6 +3,7 @@
 #include <condtree/refdata/ControlSettings.h>
 
 #include <QApplication>
+#include <QKeyEvent>
 
 #include <utility>
 
@@ -20,11 +21,6 @@ RECT toScreen(const QWidget& viewport, const RECT& cell)
 QRect toRect(const RECT& cell)
 {
     return {QPoint(cell.left, cell.top), QPoint(cell.right - 1, cell.bottom - 1)};
-}
-
-const CString& editedText(const VarTreeCtrlNode& node)
-{
-    return node.mlEditColumn == EditColumnExtra ? node.mExtra : node.mValue;
 }
 
 } // namespace
@@ -51,20 +47,43 @@ void InPlaceEditing::shutDown()
     m_view.clear();
 }
 
-void InPlaceEditing::edit(VarTreeCtrlNode& node, const RECT& cell)
+InPlaceEditing::Edited InPlaceEditing::editedOf(VarTreeCtrlNode& node) const
 {
-    const HTREEITEM item = node.mhItem;
-    finish();
-    if (m_view.isNull() || m_tree.node(item) != &node)
+    const bool isRow = m_tree.node(node.mhItem) == &node;
+    return Edited{&node, isRow ? node.mhItem : nullptr};
+}
+
+VarTreeCtrlNode* InPlaceEditing::nodeOf(const Edited& edited) const
+{
+    return edited.row == nullptr ? edited.node : m_tree.node(edited.row);
+}
+
+void InPlaceEditing::edit(VarTreeCtrlNode& node, const RECT& cell, const CString& text)
+{
+    if (m_view.isNull() || !m_editor.isNull())
         return;
-    m_item = item;
+    m_edited = editedOf(node);
     m_cell = toRect(cell);
     m_valueBefore = node.mValue;
     m_extraBefore = node.mExtra;
+    m_hadFocus = false;
     m_editor = new FocusEdit;
+    m_editor->addListener(*this);
     QObject::connect(m_editor, &FocusEdit::finished, m_view, [this] { finished(); });
-    if (m_editor->Create(node, cell, m_view->viewport(), m_services))
-        m_editor->setText(editedText(node));
+    if (!m_editor->Create(node, cell, m_view->viewport(), m_services))
+        delete m_editor;
+    else if (m_editor->text() != text)
+        m_editor->setText(text);
+}
+
+void InPlaceEditing::type(const QKeyEvent& key)
+{
+    if (m_editor.isNull())
+        return;
+    m_editor->setFocus(Qt::OtherFocusReason);
+    QKeyEvent copy(key.type(), key.key(), key.modifiers(), key.text(), key.isAutoRepeat());
+    if (!m_editor.isNull())
+        QCoreApplication::sendEvent(m_editor->focusProxy(), &copy);
 }
 
 void InPlaceEditing::finish()
@@ -80,29 +99,44 @@ void InPlaceEditing::finishMeanwhile()
     m_isTreeChanging = wasChanging;
 }
 
+void InPlaceEditing::settle()
+{
+    finish();
+    while (!m_untold.empty())
+        tellNext();
+}
+
+// The last moment at which the editor may have the focus: it hands it back before it closes.
+void InPlaceEditing::editFinished(FocusEdit* editor, const CString&)
+{
+    m_hadFocus = editor->isAncestorOf(QApplication::focusWidget());
+}
+
 // An editor that has lost the focus is inside the handling of what took it, a click perhaps, whose
 // widget a host must not delete yet.
 void InPlaceEditing::finished()
 {
-    const bool hasFocus = !m_editor.isNull() && m_editor->isAncestorOf(QApplication::focusWidget());
     m_editor.clear();
-    const VarTreeCtrlNode* node = m_tree.node(m_item);
+    const VarTreeCtrlNode* node = nodeOf(m_edited);
     if (node == nullptr || (node->mValue == m_valueBefore && node->mExtra == m_extraBefore))
         return;
     m_view->viewport()->update(m_cell);
-    if (hasFocus && !m_isTreeChanging)
-        tellChanged();
+    m_untold.push_back(m_edited);
+    if (m_hadFocus && !m_isTreeChanging)
+        tellNext();
     else
-        tellLater();
+        QMetaObject::invokeMethod(
+            m_view.data(), [this] { tellNext(); }, Qt::QueuedConnection);
 }
 
-void InPlaceEditing::tellLater()
+void InPlaceEditing::tellNext()
 {
-    const auto tell = [this, item = m_item] {
-        if (m_tree.node(item) != nullptr)
-            tellChanged();
-    };
-    QMetaObject::invokeMethod(m_view.data(), tell, Qt::QueuedConnection);
+    if (m_untold.empty())
+        return;
+    const Edited first = m_untold.front();
+    m_untold.erase(m_untold.begin());
+    if (!m_view.isNull() && nodeOf(first) != nullptr)
+        tellChanged();
 }
 
 void InPlaceEditing::tellChanged()
@@ -113,22 +147,22 @@ void InPlaceEditing::tellChanged()
 
 void InPlaceEditing::pick(VarTreeCtrlNode& node, const RECT& cell)
 {
-    const HTREEITEM item = node.mhItem;
-    if (m_view.isNull() || !m_picker.isNull() || m_tree.node(item) != &node)
+    if (m_view.isNull() || !m_picker.isNull())
         return;
     QWidget* viewport = m_view->viewport();
+    const Edited edited = editedOf(node);
+    m_picked = edited;
     CString before = node.mValue;
-    const auto stored = [this, item, &before, cell, viewport] {
+    const auto stored = [this, edited, &before, cell, viewport] {
         viewport->update(toRect(cell));
-        const VarTreeCtrlNode* picked = m_tree.node(item);
+        const VarTreeCtrlNode* picked = nodeOf(edited);
         if (picked == nullptr || picked->mValue == before)
             return;
         before = picked->mValue;
         tellChanged();
     };
-    m_pickedItem = item;
     m_picker = new PickDateDlg(
-        viewport, [this, item] { return m_tree.node(item); }, toScreen(*viewport, cell),
+        viewport, [this, edited] { return nodeOf(edited); }, toScreen(*viewport, cell),
         m_settings.dateStyle, m_services, stored);
     const QPointer<PickDateDlg> picker = m_picker;
     picker->DoModal();
@@ -137,7 +171,7 @@ void InPlaceEditing::pick(VarTreeCtrlNode& node, const RECT& cell)
 
 void InPlaceEditing::forgetDeadRows()
 {
-    if (!m_picker.isNull() && m_tree.node(m_pickedItem) == nullptr)
+    if (!m_picker.isNull() && nodeOf(m_picked) == nullptr)
         m_picker->close();
 }
 

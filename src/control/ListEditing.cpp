@@ -177,6 +177,13 @@ void ListEditing::close()
         combo->closeList();
 }
 
+void ListEditing::dismiss()
+{
+    const CommandCombo* combo = m_session.combo();
+    if (combo != nullptr && combo->isDroppedDown())
+        clear();
+}
+
 void ListEditing::forward(QEvent& event)
 {
     CommandCombo* combo = m_session.combo();

@@ -58,6 +58,8 @@ public:
     [[nodiscard]] bool closeUp();
     /// Closes the list, if it is open, as clicking elsewhere does.
     void close();
+    /// Takes the list away without applying anything, if it is open: another editor opens.
+    void dismiss();
     /// Gives the open list a typed character or a turn of the wheel.
     void forward(QEvent& event);
     /// Forgets what is gone: to be called when rows are.

@@ -38,12 +38,15 @@ public:
     using CondTreeCtrl::meParseString;
     using CondTreeCtrl::meVerifyDefaultOp;
     using CondTreeCtrl::miGetColorResolution;
+    using CondTreeCtrl::miGetColumn;
     using CondTreeCtrl::miGetImage;
     using CondTreeCtrl::mlGetIDForGroupName;
     using CondTreeCtrl::mlGetIDForUserName;
     using CondTreeCtrl::moGetWorkflowAndStateName;
     using CondTreeCtrl::mvAlterArgument;
+    using CondTreeCtrl::mvOnClickValue;
     using CondTreeCtrl::mvUpdateTypeName;
+    using CondTreeCtrl::OnNMClick;
     using CondTreeCtrl::OnNMCustomdraw;
 };
 

@@ -4,9 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
-#include <QLineEdit>
-#include <QTest>
 
 using namespace condtree;
 using namespace condtree::test;
@@ -139,26 +136,6 @@ TEST_F(ConditionControls, RecordsWithUnknownTypesAreNotGivenOut)
     // The library has recovered.
     EXPECT_EQ(control.records().value(),
               (ConditionRecords{variable("Author", "a"), variable("Author", "b")}));
-}
-
-TEST_F(ConditionControls, AnEditorInARowLosesTheFocusAndSoCommits)
-{
-    ConditionControl control(m_library.get(), nullptr, services());
-    control.setRecords({});
-    auto* editor = new QLineEdit(control.viewport());
-    int commits = 0;
-    QObject::connect(editor, &QLineEdit::editingFinished, [&commits] { ++commits; });
-    control.show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&control));
-    editor->show();
-    editor->setFocus();
-    ASSERT_EQ(QApplication::focusWidget(), editor);
-    QTest::keyClicks(editor, QStringLiteral("typed"));
-    control.commitEditor();
-    EXPECT_EQ(commits, 1);
-    EXPECT_EQ(QApplication::focusWidget(), &control);
-    control.commitEditor();
-    EXPECT_EQ(commits, 1);
 }
 
 } // namespace
