@@ -14,10 +14,7 @@ constexpr LONG kDateStyle = 120;
 
 // In a window of the first size, the longest kind of condition and the longest operator of any
 // language are to be seen whole.
-constexpr int kWholeRow = 100;
-constexpr int kNameShare = 33;
-constexpr int kOperatorShare = 24;
-constexpr int kValueShare = 24;
+constexpr std::array kColumnShares{0.33, 0.24, 0.24};
 // Every kind of condition is offered that a full vault has, but for users and groups, which belong
 // to the one tree type that leaves child reference states out.
 constexpr KiroVaultType kVaultType{0};
@@ -100,9 +97,7 @@ ConditionControl::ConditionControl(SpMgr* manager, QWidget* parent, Services ser
     , m_messages(std::move(messages))
 {
     mvInitialize(manager, kDateStyle, kVaultType, kTreeType);
-    mvResizeCol(0, kNameShare, kWholeRow);
-    mvResizeCol(1, kOperatorShare, kWholeRow);
-    mvResizeCol(2, kValueShare, kWholeRow);
+    setColumnShares(kColumnShares);
 }
 
 MaybeFailure ConditionControl::prepare(const ConditionRecords& records)

@@ -1,6 +1,9 @@
 #include "ConditionEditor.h"
 
+#include "KeptColumns.h"
 #include "RecordChanges.h"
+
+#include <condtree/control/ColumnHeader.h>
 
 #include <QEvent>
 #include <QLabel>
@@ -34,14 +37,17 @@ QString ConditionEditor::lastChange(const SpTransition& transition)
     return tr("Last changed by %1, %2").arg(transition.changedBy.str(), when);
 }
 
-ConditionEditor::ConditionEditor(const Database& database, Services services, QWidget* parent)
+ConditionEditor::ConditionEditor(const Database& database, const Services& services,
+                                 QWidget* parent)
     : QWidget(parent)
     , m_database(database)
     , m_title(newLabel(this, "title"))
     , m_states(newLabel(this, "states"))
     , m_lastChange(newLabel(this, "lastChange"))
     , m_warning(newLabel(this, "warning"))
-    , m_control(new ConditionControl(database.manager(), this, std::move(services)))
+    , m_settings(services.registry)
+    , m_control(new ConditionControl(database.manager(), this, services))
+    , m_columns(new ColumnHeader(*m_control, this, services))
 {
     m_control->setObjectName(QStringLiteral("condition"));
     //: What the rows are to those who hear the window
@@ -54,11 +60,16 @@ ConditionEditor::ConditionEditor(const Database& database, Services services, QW
     layout->addWidget(m_lastChange);
     layout->addWidget(m_warning);
     layout->addSpacing(gap);
-    layout->addWidget(m_control, 1);
+    auto* table = new QVBoxLayout;
+    table->setSpacing(0);
+    table->addWidget(m_columns);
+    table->addWidget(m_control, 1);
+    layout->addLayout(table, 1);
     // Hidden, the control leaves the words at the top all the same.
     layout->addStretch();
     connect(m_control, &CondTreeCtrl::conditionChanged, this, &ConditionEditor::compare);
     styleHeader();
+    restoreColumns();
     showHeader();
     showWarnings({});
 }
@@ -121,6 +132,25 @@ Outcome<QByteArray> ConditionEditor::exportJson()
     return conditionToJson(records.value());
 }
 
+void ConditionEditor::restoreColumns()
+{
+    m_columns->setObjectName(QStringLiteral("columns"));
+    setTabOrder(m_columns, m_control);
+    const auto shares = m_settings ? keptColumnShares(*m_settings) : std::nullopt;
+    if (shares)
+        m_control->setColumnShares(*shares); // damaged ones change nothing
+    m_keptShares = m_control->columnShares();
+}
+
+void ConditionEditor::keepColumns()
+{
+    const auto shares = m_control->columnShares();
+    if (!m_settings || shares == m_keptShares)
+        return;
+    keepColumnShares(*m_settings, shares);
+    m_keptShares = shares;
+}
+
 void ConditionEditor::setTransition(const SpTransition& transition)
 {
     m_transition = transition;
@@ -174,6 +204,7 @@ void ConditionEditor::setUnsaved(bool isUnsaved)
 void ConditionEditor::showHeader()
 {
     m_control->setVisible(m_transition.has_value());
+    m_columns->setVisible(m_transition.has_value());
     m_states->setVisible(m_transition.has_value());
     m_lastChange->setVisible(m_transition.has_value());
     if (!m_transition) {

@@ -5,9 +5,15 @@
 
 #include <QWidget>
 
+#include <array>
+#include <memory>
 #include <optional>
 
 class QLabel;
+
+namespace condtree {
+class ColumnHeader;
+}
 
 namespace condtree::workbench {
 
@@ -18,7 +24,7 @@ class ConditionEditor final : public QWidget {
     Q_OBJECT
 public:
     /// database must outlive the editor.
-    ConditionEditor(const Database& database, Services services, QWidget* parent = nullptr);
+    ConditionEditor(const Database& database, const Services& services, QWidget* parent = nullptr);
 
     /// Loads a transition and shows it, in place of what was shown.
     [[nodiscard]] MaybeFailure open(const SpTransition& transition);
@@ -37,6 +43,8 @@ public:
     /// What the control told of when the rows were last shown; not what saving would change.
     [[nodiscard]] const QStringList& failures() const { return m_failures; }
     [[nodiscard]] ConditionControl& control() const { return *m_control; }
+    /// Keeps the columns for later runs, as the user has left them.
+    void keepColumns();
 
 Q_SIGNALS:
     void unsavedChanged(bool isUnsaved);
@@ -52,6 +60,7 @@ private:
     void setUnsaved(bool isUnsaved);
     [[nodiscard]] static QString lastChange(const SpTransition& transition);
     void showHeader();
+    void restoreColumns();
     void showWarnings(const QStringList& warnings);
     void styleHeader();
 
@@ -67,7 +76,11 @@ private:
     QLabel* m_states;
     QLabel* m_lastChange;
     QLabel* m_warning;
+    std::shared_ptr<RegistryStore> m_settings;
     ConditionControl* m_control;
+    ColumnHeader* m_columns;
+    /// As the settings have them, or as they are without settings.
+    std::array<double, 3> m_keptShares{};
 };
 
 } // namespace condtree::workbench

@@ -37,11 +37,11 @@ QString fileNameFor(const SpTransition& transition)
 } // namespace
 
 MainWindow::MainWindow(const Database& database, const std::vector<SpTransition>& transitions,
-                       Services services, QWidget* parent)
+                       const Services& services, QWidget* parent)
     : QMainWindow(parent)
     , m_database(database)
     , m_list(new TransitionList)
-    , m_editor(new ConditionEditor(database, std::move(services)))
+    , m_editor(new ConditionEditor(database, services))
 {
     makeActions();
     makeLayout();
@@ -75,7 +75,10 @@ void MainWindow::openOrTell(const SpTransition& transition)
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    event->setAccepted(mayLeave());
+    const bool isLeaving = mayLeave();
+    event->setAccepted(isLeaving);
+    if (isLeaving)
+        m_editor->keepColumns();
 }
 
 void MainWindow::makeActions()

@@ -20,7 +20,7 @@ class MainWindow final : public QMainWindow {
 public:
     /// database must outlive the window.
     MainWindow(const Database& database, const std::vector<SpTransition>& transitions,
-               Services services, QWidget* parent = nullptr);
+               const Services& services, QWidget* parent = nullptr);
 
     /// Opens a transition without asking; on failure the one that was open stays.
     [[nodiscard]] MaybeFailure open(const SpTransition& transition);

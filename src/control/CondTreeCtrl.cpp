@@ -16,6 +16,7 @@
 #include <QHeaderView>
 #include <QPainter>
 
+#include <optional>
 #include <utility>
 
 namespace condtree {
@@ -155,8 +156,22 @@ int CondTreeCtrl::miGetColumnSize(int column, int totalWidth) const
 
 void CondTreeCtrl::mvResizeCol(int column, int newWidth, int totalWidth)
 {
-    m_parts->columns.resize(column, newWidth, totalWidth);
-    viewport()->update();
+    ColumnShares columns = m_parts->columns;
+    columns.resize(column, newWidth, totalWidth);
+    setColumns(columns);
+}
+
+std::array<double, 3> CondTreeCtrl::columnShares() const
+{
+    return m_parts->columns.shares();
+}
+
+bool CondTreeCtrl::setColumnShares(const std::array<double, 3>& shares)
+{
+    const std::optional<ColumnShares> usable = usableShares(shares);
+    if (usable)
+        setColumns(*usable);
+    return usable.has_value();
 }
 
 CString CondTreeCtrl::moGetNameForUserId(LONG id)
@@ -377,6 +392,15 @@ void CondTreeCtrl::followDesktop()
 {
     if (const auto palette = m_parts->palette.follow(QApplication::palette(this)))
         setPalette(*palette);
+}
+
+// The signal comes last: the host may delete the control in it.
+void CondTreeCtrl::setColumns(const ColumnShares& columns)
+{
+    if (std::exchange(m_parts->columns, columns) == columns)
+        return;
+    viewport()->update();
+    Q_EMIT columnsResized();
 }
 
 } // namespace condtree

@@ -11,6 +11,7 @@
 
 #include <QTreeView>
 
+#include <array>
 #include <functional>
 #include <map>
 #include <memory>
@@ -18,6 +19,7 @@
 
 namespace condtree {
 
+class ColumnShares;
 struct CondTreeParts;
 
 /// A tree in which an administrator edits a boolean condition: an implicit AND of condition rows
@@ -77,6 +79,11 @@ public:
     [[nodiscard]] int miGetColumnSize(int column, int totalWidth) const;
     /// Gives a column newWidth pixels of a row of totalWidth, as dragging its right boundary does.
     void mvResizeCol(int column, int newWidth, int totalWidth);
+    /// The shares of a row's width that the first three columns take, as a host keeps them.
+    [[nodiscard]] std::array<double, 3> columnShares() const;
+    /// Gives the columns shares that were kept. False, and nothing changes, unless each is from 0
+    /// to 1 and they are at most 1 together; a billionth beyond is put right.
+    bool setColumnShares(const std::array<double, 3>& shares);
 
     /// The shown name of a user; empty when there is none or the users cannot be loaded.
     CString moGetNameForUserId(LONG id);
@@ -86,6 +93,8 @@ public:
 Q_SIGNALS:
     /// Emitted once for each change that a user makes; not by loading or saving.
     void conditionChanged();
+    /// Emitted when the shares of the columns have changed, by whatever way.
+    void columnsResized();
 
 protected:
     /// Loads the card variables if they are not loaded; false when they cannot be, after telling
@@ -184,6 +193,7 @@ private:
     void connectEditors();
     [[nodiscard]] std::function<LRESULT(NMTVCUSTOMDRAW&)> stage();
     void followDesktop();
+    void setColumns(const ColumnShares& columns);
 
     std::shared_ptr<CondTreeParts> m_parts;
 };

@@ -27,11 +27,17 @@ enum class ControlText : std::size_t {
     BillOfMaterials,
     ChildRefState,
     ChildRefHistoricState,
-    Item
+    Item,
+    ColumnVariable,
+    ColumnOperator,
+    ColumnValue,
+    ColumnRemark,
+    Columns,
+    ColumnsHelp
 };
 
 /// In the order of ControlText. The ids name the translations and stay as they are.
-inline constexpr std::array<TextRef, 18> kControlTexts{{
+inline constexpr std::array<TextRef, 24> kControlTexts{{
     {38, kTextKey, u"Search", u"And"},
     {39, kTextKey, u"Search", u"Or"},
     {44, kTextKey, u"Search", u"<Any Variable>"},
@@ -50,9 +56,16 @@ inline constexpr std::array<TextRef, 18> kControlTexts{{
     {756, kTextKey, u"Workflow", u"Child Reference State"},
     {757, kTextKey, u"Workflow", u"Child Reference historic State"},
     {15, kTextKey, u"ItemMgr", u"Item"},
+    {1, kTextKey, u"Columns", u"Variable"},
+    {2, kTextKey, u"Columns", u"Operator"},
+    {3, kTextKey, u"Columns", u"Value"},
+    {4, kTextKey, u"Columns", u"Remark"},
+    {5, kTextKey, u"Columns", u"Columns"},
+    {6, kTextKey, u"Columns",
+     u"Left and Right choose a boundary, plus and minus move it, Home resets the columns."},
 }};
 
-static_assert(kControlTexts.size() == static_cast<std::size_t>(ControlText::Item) + 1);
+static_assert(kControlTexts.size() == static_cast<std::size_t>(ControlText::ColumnsHelp) + 1);
 
 [[nodiscard]] constexpr const TextRef& textRef(ControlText text)
 {

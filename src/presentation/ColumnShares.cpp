@@ -14,6 +14,9 @@ constexpr int kMargin0 = 15;
 constexpr int kMargin1 = 10;
 constexpr int kMargin2 = 5;
 
+// How far shares may be beyond 0 or 1 without being wrong.
+constexpr double kRounding = 1e-9;
+
 int saturated(std::int64_t value)
 {
     constexpr std::int64_t low = std::numeric_limits<int>::min();
@@ -69,6 +72,28 @@ void ColumnShares::resize(int column, int newWidth, int totalWidth)
     } else if (column == 2) {
         m_shares[2] = shareOf(std::min(x, total - kMargin2 - c0 - c1));
     }
+}
+
+std::optional<ColumnShares> usableShares(std::array<double, 3> shares)
+{
+    double sum = 0;
+    for (double& share : shares) {
+        if (!(share >= -kRounding && share <= 1 + kRounding)) // no number is neither
+            return std::nullopt;
+        share = std::clamp(share, 0.0, 1.0);
+        sum += share;
+    }
+    if (sum > 1 + kRounding)
+        return std::nullopt;
+    return ColumnShares(shares);
+}
+
+std::array<double, 3> sharesWithinRow(std::array<double, 3> shares)
+{
+    const double room = 1 - shares[0] - shares[1];
+    if (shares[2] > room + kRounding)
+        shares[2] = std::max(room, 0.0);
+    return shares;
 }
 
 } // namespace condtree

@@ -1,5 +1,6 @@
 // Every public header, so that one which is not installed, or which needs one that is not, fails
 // here.
+#include <condtree/control/ColumnHeader.h>
 #include <condtree/control/CondTreeCtrl.h>
 #include <condtree/control/RealServices.h>
 #include <condtree/editing/CMonthCalCtrlEx.h>
@@ -118,6 +119,13 @@ int main(int argc, char** argv)
     control.resize(600, 200);
     control.show();
     control.mvLoad(twoRecords());
+
+    const ColumnHeader header(control);
+    control.mvResizeCol(0, 300, 600);
+    std::cout << "columns:";
+    for (const CString& title : header.titles())
+        std::cout << ' ' << title.toStdString();
+    std::cout << ", the first " << control.columnShares()[0] << '\n';
 
     std::vector<TransCond> saved;
     control.mvSave(saved);

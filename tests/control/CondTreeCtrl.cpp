@@ -10,8 +10,10 @@
 #include <QIcon>
 #include <QImage>
 #include <QPainter>
+#include <QSignalSpy>
 
 #include <array>
+#include <cmath>
 #include <functional>
 
 namespace condtree::test {
@@ -439,6 +441,40 @@ TEST_F(CondTreeCtrlTest, ColumnsAreMeasuredAndResized)
     EXPECT_EQ(control->miGetColumnSize(0, 400), 385);
     EXPECT_EQ(control->miGetColumnSize(1, 400), 5);
     EXPECT_EQ(control->miGetColumnSize(2, 400), 5);
+}
+
+TEST_F(CondTreeCtrlTest, SharesComeBackAsTheyWereKept)
+{
+    const std::array<double, 3> kept{61.0 / 601, 1.0 / 3, 0.2};
+    EXPECT_TRUE(control->setColumnShares(kept));
+    EXPECT_EQ(control->columnShares(), kept);
+    for (const std::array<double, 3>& unusable :
+         {std::array{-0.1, 0.2, 0.3}, {0.5, 0.5, 0.1}, {0.1, std::nan(""), 0.1}}) {
+        EXPECT_FALSE(control->setColumnShares(unusable));
+        EXPECT_EQ(control->columnShares(), kept);
+    }
+}
+
+TEST_F(CondTreeCtrlTest, ChangedSharesAreToldOnceAndKeptOnesNot)
+{
+    const QSignalSpy spy(control.get(), &CondTreeCtrl::columnsResized);
+    control->mvResizeCol(0, 100, 400); // as it is
+    control->mvResizeCol(3, 10, 400);
+    control->mvResizeCol(0, 10, 0);
+    EXPECT_TRUE(control->setColumnShares({0.25, 0.25, 0.25}));
+    EXPECT_FALSE(control->setColumnShares({2, 0, 0}));
+    EXPECT_EQ(spy.count(), 0);
+    control->mvResizeCol(0, 150, 400);
+    EXPECT_EQ(spy.count(), 1);
+    EXPECT_TRUE(control->setColumnShares({0.25, 0.25, 0.25}));
+    EXPECT_EQ(spy.count(), 2);
+}
+
+TEST_F(CondTreeCtrlTest, AHostMayDeleteTheControlWhenItsColumnsAreResized)
+{
+    QObject::connect(control.get(), &CondTreeCtrl::columnsResized, [this] { control.reset(); });
+    control->mvResizeCol(0, 150, 400);
+    EXPECT_EQ(control, nullptr);
 }
 
 } // namespace

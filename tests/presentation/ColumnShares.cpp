@@ -4,8 +4,10 @@
 #include <rapidcheck/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <limits>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -76,6 +78,50 @@ TEST(ColumnShares, WidthsSaturate)
     EXPECT_EQ(shares.width(3, kMax), kMax);
     EXPECT_EQ(shares.width(2, kMin), kMax);
     EXPECT_EQ(shares.width(3, kMin), kMin);
+}
+
+struct Kept {
+    const char* name;
+    std::array<double, 3> shares;
+    std::optional<std::array<double, 3>> usable;
+};
+
+class KeptShares : public testing::TestWithParam<Kept> {};
+
+TEST_P(KeptShares, AreUsableOrNot)
+{
+    const auto usable = condtree::usableShares(GetParam().shares);
+    EXPECT_EQ(usable ? std::optional(usable->shares()) : std::nullopt, GetParam().usable);
+}
+
+constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
+constexpr double kInfinite = std::numeric_limits<double>::infinity();
+
+INSTANTIATE_TEST_SUITE_P(
+    ColumnShares, KeptShares,
+    testing::Values(Kept{"Quarters", {0.25, 0.25, 0.25}, {{0.25, 0.25, 0.25}}},
+                    Kept{"Nothing", {0, 0, 0}, {{0, 0, 0}}},
+                    Kept{"TheWholeRow", {0.5, 0.25, 0.25}, {{0.5, 0.25, 0.25}}},
+                    Kept{"OneAll", {0, 1, 0}, {{0, 1, 0}}},
+                    Kept{"RoundedBelowNothing", {0.5, -1e-12, 0.25}, {{0.5, 0, 0.25}}},
+                    Kept{"RoundedAboveAll", {1 + 1e-12, 0, 0}, {{1, 0, 0}}},
+                    Kept{"RoundedSum", {0.7, 0.2, 0.1 + 1e-12}, {{0.7, 0.2, 0.1 + 1e-12}}},
+                    Kept{"BelowNothing", {0.5, 0.2, -0.001}, {}},
+                    Kept{"AboveAll", {1.001, 0, 0}, {}}, Kept{"TooMuch", {0.5, 0.3, 0.201}, {}},
+                    Kept{"NoNumberFirst", {kNone, 0, 0}, {}},
+                    Kept{"NoNumberLast", {0, 0, kNone}, {}},
+                    Kept{"Infinite", {0, kInfinite, 0}, {}},
+                    Kept{"InfiniteBelow", {0, -kInfinite, 0}, {}}),
+    [](const auto& row) { return std::string(row.param.name); });
+
+TEST(ColumnShares, TheThirdColumnGivesUpWhatIsBeyondTheRow)
+{
+    using condtree::sharesWithinRow;
+    EXPECT_EQ(sharesWithinRow({0.25, 0.25, 0.25}), (std::array{0.25, 0.25, 0.25}));
+    EXPECT_EQ(sharesWithinRow({0.25, 0.5, 0.25}), (std::array{0.25, 0.5, 0.25}));
+    EXPECT_EQ(sharesWithinRow({0.25, 0.5, 0.5}), (std::array{0.25, 0.5, 0.25}));
+    EXPECT_EQ(sharesWithinRow({0.5, 0.75, 0.5}), (std::array{0.5, 0.75, 0.0}));
+    EXPECT_EQ(sharesWithinRow({0.5, 0.75, -0.5}), (std::array{0.5, 0.75, -0.5}));
 }
 
 struct Resize {

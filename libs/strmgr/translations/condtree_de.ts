@@ -2,6 +2,39 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>Columns</name>
+    <message>
+        <source>Variable</source>
+        <comment>TS 1</comment>
+        <translation>Variable</translation>
+    </message>
+    <message>
+        <source>Operator</source>
+        <comment>TS 2</comment>
+        <translation>Operator</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <comment>TS 3</comment>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <comment>TS 4</comment>
+        <translation>Bemerkung</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <comment>TS 5</comment>
+        <translation>Spalten</translation>
+    </message>
+    <message>
+        <source>Left and Right choose a boundary, plus and minus move it, Home resets the columns.</source>
+        <comment>TS 6</comment>
+        <translation>Links und Rechts wählen eine Grenze, Plus und Minus verschieben sie, Pos1 setzt die Spalten zurück.</translation>
+    </message>
+</context>
+<context>
     <name>ErrorCodes</name>
     <message>
         <source>The method was successfully executed.</source>

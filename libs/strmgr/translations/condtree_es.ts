@@ -2,6 +2,39 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>Columns</name>
+    <message>
+        <source>Variable</source>
+        <comment>TS 1</comment>
+        <translation>Variable</translation>
+    </message>
+    <message>
+        <source>Operator</source>
+        <comment>TS 2</comment>
+        <translation>Operador</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <comment>TS 3</comment>
+        <translation>Valor</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <comment>TS 4</comment>
+        <translation>Observación</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <comment>TS 5</comment>
+        <translation>Columnas</translation>
+    </message>
+    <message>
+        <source>Left and Right choose a boundary, plus and minus move it, Home resets the columns.</source>
+        <comment>TS 6</comment>
+        <translation>Izquierda y Derecha eligen un límite, más y menos lo mueven, Inicio restablece las columnas.</translation>
+    </message>
+</context>
+<context>
     <name>ErrorCodes</name>
     <message>
         <source>The method was successfully executed.</source>

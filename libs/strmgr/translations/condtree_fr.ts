@@ -2,6 +2,39 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>Columns</name>
+    <message>
+        <source>Variable</source>
+        <comment>TS 1</comment>
+        <translation>Variable</translation>
+    </message>
+    <message>
+        <source>Operator</source>
+        <comment>TS 2</comment>
+        <translation>Opérateur</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <comment>TS 3</comment>
+        <translation>Valeur</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <comment>TS 4</comment>
+        <translation>Remarque</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <comment>TS 5</comment>
+        <translation>Colonnes</translation>
+    </message>
+    <message>
+        <source>Left and Right choose a boundary, plus and minus move it, Home resets the columns.</source>
+        <comment>TS 6</comment>
+        <translation>Gauche et Droite choisissent une limite, plus et moins la déplacent, Origine rétablit les colonnes.</translation>
+    </message>
+</context>
+<context>
     <name>ErrorCodes</name>
     <message>
         <source>The method was successfully executed.</source>

@@ -2,6 +2,39 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
+    <name>Columns</name>
+    <message>
+        <source>Variable</source>
+        <comment>TS 1</comment>
+        <translation>変数</translation>
+    </message>
+    <message>
+        <source>Operator</source>
+        <comment>TS 2</comment>
+        <translation>演算子</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <comment>TS 3</comment>
+        <translation>値</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <comment>TS 4</comment>
+        <translation>備考</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <comment>TS 5</comment>
+        <translation>列</translation>
+    </message>
+    <message>
+        <source>Left and Right choose a boundary, plus and minus move it, Home resets the columns.</source>
+        <comment>TS 6</comment>
+        <translation>左右キーで境界を選択し、プラスとマイナスで移動し、Home で列を元に戻します。</translation>
+    </message>
+</context>
+<context>
     <name>ErrorCodes</name>
     <message>
         <source>The method was successfully executed.</source>

@@ -2,6 +2,39 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="sv" sourcelanguage="en">
 <context>
+    <name>Columns</name>
+    <message>
+        <source>Variable</source>
+        <comment>TS 1</comment>
+        <translation>Variabel</translation>
+    </message>
+    <message>
+        <source>Operator</source>
+        <comment>TS 2</comment>
+        <translation>Operator</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <comment>TS 3</comment>
+        <translation>Värde</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <comment>TS 4</comment>
+        <translation>Anmärkning</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <comment>TS 5</comment>
+        <translation>Kolumner</translation>
+    </message>
+    <message>
+        <source>Left and Right choose a boundary, plus and minus move it, Home resets the columns.</source>
+        <comment>TS 6</comment>
+        <translation>Vänster och Höger väljer en gräns, plus och minus flyttar den, Home återställer kolumnerna.</translation>
+    </message>
+</context>
+<context>
     <name>ErrorCodes</name>
     <message>
         <source>The method was successfully executed.</source>
