@@ -141,7 +141,7 @@ protected:
         const int y = control->visualRect(control->model()->index(0, 0)).center().y();
         const auto colour = [&](int column) {
             const QPointF place = QPointF(column - left() + 0.5, y) * image.devicePixelRatio();
-            return image.pixelColor(place.toPoint());
+            return image.pixelColor(int(place.x()), int(place.y()));
         };
         return colour(x) != colour(x - 2) && colour(x - 2) == colour(x + 2);
     }
@@ -373,7 +373,7 @@ TEST_F(ColumnHeaders, TheChosenBoundaryIsMarkedWhileTheHeaderHasTheFocus)
     const auto marked = [&](int column) {
         const QImage image = m_header->grab().toImage();
         const QPointF place = QPointF(boundary(column) + 0.5, 5) * image.devicePixelRatio();
-        return image.pixelColor(place.toPoint()) == highlight;
+        return image.pixelColor(int(place.x()), int(place.y())) == highlight;
     };
     control->setFocus();
     EXPECT_FALSE(marked(0));

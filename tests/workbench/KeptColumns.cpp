@@ -58,9 +58,9 @@ private:
 };
 
 /// A window as a run of the program opens it: with a store of its own on the same files.
-class Run {
+class Session {
 public:
-    Run()
+    Session()
         : m_database(m_sample.open())
         , m_window(*m_database, m_database->transitions().value(), realServices())
     {
@@ -90,7 +90,6 @@ public:
         QTest::mouseRelease(&header(), Qt::LeftButton, {}, to);
     }
     bool close() { return m_window.close(); }
-    [[nodiscard]] MainWindow& window() { return m_window; }
 
 private:
     SampleDatabase m_sample;
@@ -101,12 +100,12 @@ private:
 TEST(KeptColumns, TheHeaderStandsOnTheRowsAndIsHiddenWithThem)
 {
     const SettingsOfTheTest settings;
-    Run run;
-    const QWidget& control = run.control();
-    EXPECT_TRUE(run.header().isVisible());
-    EXPECT_EQ(run.header().geometry().bottom() + 1, control.geometry().top());
-    EXPECT_EQ(run.header().geometry().left(), control.geometry().left());
-    EXPECT_EQ(run.header().width(), control.width());
+    Session session;
+    const QWidget& control = session.control();
+    EXPECT_TRUE(session.header().isVisible());
+    EXPECT_EQ(session.header().geometry().bottom() + 1, control.geometry().top());
+    EXPECT_EQ(session.header().geometry().left(), control.geometry().left());
+    EXPECT_EQ(session.header().width(), control.width());
     const SampleDatabase sample;
     const auto database = sample.open();
     MainWindow empty(*database, {}, realServices());
@@ -119,7 +118,7 @@ TEST(KeptColumns, TheNextRunHasTheSharesToTheLastDigit)
     const SettingsOfTheTest settings;
     Shares left{};
     {
-        Run first;
+        Session first;
         EXPECT_EQ(first.shares(), kDefault);
         first.drag(0, 37);
         first.drag(1, -61);
@@ -128,7 +127,7 @@ TEST(KeptColumns, TheNextRunHasTheSharesToTheLastDigit)
         EXPECT_TRUE(first.close());
     }
     for (int runs = 0; runs < 3; ++runs) {
-        Run next;
+        Session next;
         EXPECT_EQ(next.shares(), left) << runs;
         EXPECT_TRUE(next.close());
     }
@@ -138,42 +137,42 @@ TEST(KeptColumns, ResettingBringsTheWorkbenchsOwnSharesBackAndTheyAreKeptToo)
 {
     const SettingsOfTheTest settings;
     {
-        Run first;
+        Session first;
         first.drag(2, 40);
         first.close();
     }
     {
-        Run second;
+        Session second;
         ASSERT_NE(second.shares(), kDefault);
         second.header().setFocus();
         QTest::keyClick(&second.header(), Qt::Key_Home);
         EXPECT_EQ(second.shares(), kDefault);
         second.close();
     }
-    EXPECT_EQ(Run().shares(), kDefault);
+    EXPECT_EQ(Session().shares(), kDefault);
 }
 
 TEST(KeptColumns, ARunThatChangesNothingWritesNothing)
 {
     const SettingsOfTheTest settings;
-    Run run;
-    run.close();
+    Session session;
+    session.close();
     EXPECT_FALSE(QFile::exists(settings.file()));
 }
 
 TEST(KeptColumns, AWindowThatIsNotLeftKeepsNothingYet)
 {
     const SettingsOfTheTest settings;
-    Run run;
-    run.drag(0, 30);
-    auto& control = run.control();
+    Session session;
+    session.drag(0, 30);
+    auto& control = session.control();
     control.mpoGetNode(TVI_ROOT)->mChildren.front()->mValue = QStringLiteral("changed");
     Q_EMIT control.conditionChanged();
     const Answers answers(
         {press(QMessageBox::Cancel, "not saved"), press(QMessageBox::Discard, "not saved")});
-    EXPECT_FALSE(run.close());
+    EXPECT_FALSE(session.close());
     EXPECT_FALSE(QFile::exists(settings.file()));
-    EXPECT_TRUE(run.close());
+    EXPECT_TRUE(session.close());
     EXPECT_TRUE(settings.read().contains("ColumnShares"));
 }
 
@@ -182,9 +181,9 @@ TEST(KeptColumns, OtherSettingsStay)
     const SettingsOfTheTest settings;
     settings.write("Windows Registry Editor Version 5.00\r\n\r\n"
                    "[HKEY_CURRENT_USER\\Software\\Other]\r\n\"Kept\"=dword:0000002a\r\n");
-    Run run;
-    run.drag(0, 30);
-    run.close();
+    Session session;
+    session.drag(0, 30);
+    session.close();
     EXPECT_TRUE(settings.read().contains("\"Kept\"=dword:0000002a"))
         << settings.read().toStdString();
     EXPECT_TRUE(settings.read().contains("ColumnShares"));
@@ -201,7 +200,7 @@ TEST_P(DamagedColumns, AreTheDefault)
 {
     const SettingsOfTheTest settings;
     settings.writeValue(GetParam().value);
-    EXPECT_EQ(Run().shares(), kDefault);
+    EXPECT_EQ(Session().shares(), kDefault);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -223,7 +222,7 @@ TEST(KeptColumns, ALongTextIsNotRead)
 {
     const SettingsOfTheTest settings;
     settings.writeValue("\"0.1 0.2 0.3" + QByteArray(300, '0') + "\"");
-    EXPECT_EQ(Run().shares(), kDefault);
+    EXPECT_EQ(Session().shares(), kDefault);
 }
 
 TEST(KeptColumns, SharesComeBackAsTheyWentIn)
@@ -246,21 +245,21 @@ TEST_F(KeptColumnsOfPrograms, AreSeenByAnotherProcess)
 {
     const SettingsOfTheTest settings;
     const auto drawn = [&] {
-        const Finished run =
+        const Finished drawing =
             runPlain({QStringLiteral("--db"), m_database.url(), QStringLiteral("--screenshot"),
                       QStringLiteral("-")},
                      {}, {{QStringLiteral("CONDTREE_REGISTRY_DIR"), settings.folder()}});
-        EXPECT_EQ(run.exitCode, 0);
-        EXPECT_EQ(run.errors.toStdString(), "");
-        return run.output;
+        EXPECT_EQ(drawing.exitCode, 0);
+        EXPECT_EQ(drawing.errors.toStdString(), "");
+        return drawing.output;
     };
     const QByteArray before = drawn();
     EXPECT_FALSE(before.isEmpty());
     EXPECT_EQ(drawn(), before);
     EXPECT_FALSE(QFile::exists(settings.file()));
-    Run run;
-    run.drag(0, 50);
-    run.close();
+    Session session;
+    session.drag(0, 50);
+    session.close();
     EXPECT_NE(drawn(), before);
     settings.writeValue("\"damaged\"");
     EXPECT_EQ(drawn(), before);
