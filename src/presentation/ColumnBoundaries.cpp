@@ -55,7 +55,6 @@ std::optional<int> ColumnBoundaries::boundaryAt(LONG x, int reach) const
 
 int ColumnBoundaries::largestWidth(int column) const
 {
-    const int limit = m_width - kMargins[0];
     // Beyond its margin the first column is pinned there with the others behind it.
     if (column == 0)
         return m_width;
@@ -66,6 +65,7 @@ int ColumnBoundaries::largestWidth(int column) const
         return m_width - kMargins[2] - first - second;
     // What the second gains, the third loses. Any width beyond the limit means all the room.
     const int room = m_width - kMargins[1] - first;
+    const int limit = m_width - kMargins[0];
     return second + third < room ? std::min(second + third, limit) : room;
 }
 

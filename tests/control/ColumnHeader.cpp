@@ -294,6 +294,28 @@ TEST_F(ColumnHeaders, AClickOnABoundaryChangesNothing)
     EXPECT_EQ(control->columnShares(), (Shares{0.25, 0.25, 0.25}));
 }
 
+TEST_F(ColumnHeaders, ADragThatEndsWhereItBeganChangesNothing)
+{
+    setRowWidth(403);
+    const int x = boundary(0) + 1;
+    press(x);
+    move(x + 50);
+    EXPECT_EQ(widths()[0], 150);
+    move(x);
+    EXPECT_EQ(control->columnShares(), (Shares{0.25, 0.25, 0.25}));
+    release(x);
+    EXPECT_EQ(control->columnShares(), (Shares{0.25, 0.25, 0.25}));
+}
+
+TEST_F(ColumnHeaders, ResettingEndsADrag)
+{
+    press(boundary(0));
+    move(left() + 150);
+    key(Qt::Key_Home);
+    move(left() + 200);
+    EXPECT_EQ(control->columnShares(), (Shares{0.25, 0.25, 0.25}));
+}
+
 TEST_F(ColumnHeaders, ASqueezedColumnCanBeOpenedAgain)
 {
     drag(boundary(1), boundary(0) - 30);

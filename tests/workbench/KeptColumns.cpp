@@ -214,7 +214,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Damage{"AboveOne", R"("1.5 0 0")"}, Damage{"NoNumber", R"("nan 0.1 0.1")"},
                     Damage{"Infinite", R"("0.1 inf 0.1")"}, Damage{"Huge", R"("0.1 1e999 0.1")"},
                     Damage{"ANumberOfAnotherType", "dword:00000001"},
-                    Damage{"BytesOfAnotherType", "hex:30,2e,31,20,30,20,30,00"},
+                    Damage{"BytesOfAnotherType", "hex:30,00,20,00,30,00,20,00,30,00,00,00"},
                     Damage{"HalfAUnit", "hex(1):30,00,20"}, Damage{"NoText", "hex(1):"}),
     [](const auto& row) { return std::string(row.param.name); });
 
