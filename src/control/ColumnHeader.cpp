@@ -82,7 +82,11 @@ ColumnHeader::ColumnHeader(CondTreeCtrl& control, QWidget* parent, const Service
     control.installEventFilter(this);
     control.viewport()->installEventFilter(this);
     connect(&control, &CondTreeCtrl::columnsResized, this, &ColumnHeader::showShares);
-    connect(&control, &QObject::destroyed, this, &ColumnHeader::showShares);
+    // It is no control any more then, though the pointer still holds it.
+    connect(&control, &QObject::destroyed, this, [this] {
+        m_control.clear();
+        update();
+    });
     showTexts();
 }
 
