@@ -2,6 +2,7 @@
 
 #include <condtree/control/CondTreeParts.h>
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPointer>
@@ -85,7 +86,7 @@ void CondTreeCtrl::mousePressEvent(QMouseEvent* event)
 {
     if (event->button() != Qt::LeftButton)
         return;
-    m_parts->clicks.press(pointOf(*event));
+    m_parts->clicks.press(pointOf(*event), event->timestamp());
     QTreeView::mousePressEvent(event);
 }
 
@@ -112,11 +113,20 @@ void CondTreeCtrl::mouseReleaseEvent(QMouseEvent* event)
     OnNMClick(&header, &result);
 }
 
-// The second press of a double click opens and closes groups, and is no click of its own.
+// The second press of a double click opens and closes groups, and is no click of its own; the
+// view may take it for a press, when the rows have changed since the first.
 void CondTreeCtrl::mouseDoubleClickEvent(QMouseEvent* event)
 {
-    m_parts->clicks.cancel();
+    if (event->button() != Qt::LeftButton)
+        return;
+    const auto parts = m_parts;
+    if (!parts->clicks.isSecondPress(pointOf(*event), event->timestamp(),
+                                     QApplication::doubleClickInterval())) {
+        mousePressEvent(event);
+        return;
+    }
     QTreeView::mouseDoubleClickEvent(event);
+    parts->clicks.cancel();
 }
 
 void CondTreeCtrl::keyPressEvent(QKeyEvent* event)

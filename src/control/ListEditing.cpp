@@ -1,7 +1,6 @@
 #include "ListEditing.h"
 
 #include <condtree/editing/ChoiceText.h>
-#include <condtree/editing/CloseUp.h>
 #include <condtree/editing/CommandCombo.h>
 #include <condtree/editing/ListSearch.h>
 #include <condtree/editing/OperatorList.h>
@@ -29,7 +28,15 @@ ListEditing::ListEditing(QTreeView& view, const Services& services, ControlSetti
 void ListEditing::setHooks(std::function<void()> closedUp, std::function<void(QEvent*)> input)
 {
     m_closedUp = std::move(closedUp);
-    m_input.setHook(std::move(input));
+    // A closed list takes nothing from those who have the focus.
+    m_input.setHook([this, input = std::move(input)](QEvent* event) {
+        const CommandCombo* combo = m_session.combo();
+        if (combo == nullptr || !combo->isDroppedDown())
+            return false;
+        const auto tell = input; // this may go meanwhile
+        tell(event);
+        return true;
+    });
 }
 
 void ListEditing::shutDown()
@@ -53,10 +60,18 @@ CommandCombo* ListEditing::make(const RECT& cell, const ImgLst* images)
     if (const VarTreeCtrlNode* node = m_tree.node(m_clicked))
         combo.setAccessibleName(node->mName);
     QObject::connect(&combo, &CommandCombo::closedUp, m_view.data(), [this] {
-        m_input.leave();
-        m_closedUp();
+        const auto closedUp = m_closedUp; // this may go meanwhile
+        closedUp();
     });
     return &combo;
+}
+
+// Texts, metrics and messages let the host in, who may have taken the list or the row away, or have
+// opened another list.
+bool ListEditing::isStill(const QPointer<CommandCombo>& combo, HTREEITEM row) const
+{
+    return !combo.isNull() && m_session.combo() == combo && m_clicked == row
+           && m_tree.node(row) != nullptr;
 }
 
 void ListEditing::drop()
@@ -85,27 +100,36 @@ KindListFor ListEditing::kindListFor() const
 
 void ListEditing::openKinds(const RECT& cell)
 {
-    const HTREEITEM item = m_clicked;
+    const HTREEITEM row = m_clicked;
     const QPointer<CommandCombo> combo = make(cell, m_images.rows());
-    if (combo.isNull())
+    if (!isStill(combo, row))
         return;
     const KindListFor list = kindListFor();
+    const ChoiceEntries commands = kindCommands(list, m_services.string);
     int position = 0;
-    for (const ChoiceEntry& entry : kindCommands(list, m_services.string))
-        m_session.add(entry.code, entry.text, entry.image, position++);
-    // A message about the variables lets the host in, who may have opened another list meanwhile.
-    if (!m_reference.variables.mbInitVars() || combo.isNull() || m_session.combo() != combo
-        || m_clicked != item || m_tree.node(item) == nullptr)
+    for (const ChoiceEntry& entry : commands) {
+        if (isStill(combo, row))
+            m_session.add(entry.code, entry.text, entry.image, position++);
+    }
+    if (!isStill(combo, row) || !m_reference.variables.mbInitVars() || !isStill(combo, row))
         return;
     m_session.addAll(m_cache.variables(m_reference.variables.list()), position);
+    if (!isStill(combo, row))
+        return;
     preselectKind(list);
-    drop();
+    if (isStill(combo, row))
+        drop();
 }
 
 void ListEditing::preselectKind(const KindListFor& list)
 {
-    const VarTreeCtrlNode& node = *m_tree.node(m_clicked);
-    const Preselection wanted = kindPreselection(node.mlCode, node.mName, list, m_services.string);
+    const QPointer<CommandCombo> combo = m_session.combo();
+    const HTREEITEM row = m_clicked;
+    const VarTreeCtrlNode& node = *m_tree.node(row);
+    const CString name = node.mName; // the row may go meanwhile
+    const Preselection wanted = kindPreselection(node.mlCode, name, list, m_services.string);
+    if (!isStill(combo, row))
+        return;
     if (const auto* code = std::get_if<PreselectCode>(&wanted))
         m_session.selectCode(code->code);
     else if (const auto* text = std::get_if<PreselectText>(&wanted))
@@ -124,51 +148,62 @@ void ListEditing::selectText(const CString& text, int start)
 
 void ListEditing::openOperators(const RECT& cell)
 {
-    const VarTreeCtrlNode* node = m_tree.node(m_clicked);
-    if (node == nullptr || make(cell, m_images.operators()) == nullptr)
+    const HTREEITEM row = m_clicked;
+    const QPointer<CommandCombo> combo = make(cell, m_images.operators());
+    if (!isStill(combo, row))
         return;
-    const LONG code = node->mlCode;
+    const VarTreeCtrlNode& node = *m_tree.node(row);
+    const LONG code = node.mlCode;
+    const ChoiceEntries operators = operatorChoices(code, node.mlArgType, m_services.string);
     int position = 0;
-    for (const ChoiceEntry& entry : operatorChoices(code, node->mlArgType, m_services.string))
-        m_session.add(entry.code, entry.text, entry.image, position++);
-    selectText(operatorPreselection(code, m_services.string), 0);
+    for (const ChoiceEntry& entry : operators) {
+        if (isStill(combo, row))
+            m_session.add(entry.code, entry.text, entry.image, position++);
+    }
+    const CString wanted = operatorPreselection(code, m_services.string);
+    if (!isStill(combo, row))
+        return;
+    selectText(wanted, 0);
     drop();
 }
 
 void ListEditing::openValues(const RECT& cell, const SharedChoices& values)
 {
-    if (make(cell, nullptr) == nullptr)
-        return;
+    const QPointer<CommandCombo> combo = make(cell, nullptr);
     m_session.addAll(values, 0);
-    drop();
+    if (!combo.isNull() && m_session.combo() == combo)
+        drop();
 }
 
 bool ListEditing::closeUp()
 {
-    const CommandCombo* combo = m_session.combo();
-    const int selected = combo == nullptr ? -1 : combo->selection();
+    const QPointer<CommandCombo> combo = m_session.combo();
+    const int selected = combo.isNull() ? -1 : combo->selection();
     CloseUpResult result;
     if (selected >= 0) {
         if (m_tree.node(m_clicked) == nullptr)
             return false;
-        const ChoiceEntry entry = combo->entry(selected);
-        const std::function<SYSTEMTIME()>& clock = m_services.localTime;
-        const bool wasApplying = std::exchange(m_isApplying, true);
-        result = applyChoice(m_clicked, {entry.code, choiceTextAsRead(entry.text), selected},
-                             {m_tree, m_reference, m_settings, m_services.string, clock});
-        m_isApplying = wasApplying;
-        forgetDeadRows();
+        result = apply(combo, selected);
     }
-    if (result.end == CloseUpEnd::HideCombo)
-        hide();
+    // Whatever the host did meanwhile: a list that it opened stays, and one without a row does not.
+    const bool isOver = result.end == CloseUpEnd::HideCombo || m_tree.node(m_clicked) == nullptr;
+    if (isOver && !combo.isNull() && m_session.combo() == combo) {
+        m_input.leave();
+        combo->hide();
+    }
     m_tree.invalidate();
     return result.isChanged;
 }
 
-void ListEditing::hide()
+CloseUpResult ListEditing::apply(const QPointer<CommandCombo>& combo, int selected)
 {
-    if (CommandCombo* combo = m_session.combo())
-        combo->hide();
+    const ChoiceEntry entry = combo->entry(selected);
+    const QPointer<CommandCombo> outer = std::exchange(m_applying, combo);
+    const CloseUpResult result =
+        applyChoice(m_clicked, {entry.code, choiceTextAsRead(entry.text), selected},
+                    {m_tree, m_reference, m_settings, m_services.string, m_services.localTime});
+    m_applying = outer;
+    return result;
 }
 
 void ListEditing::close()
@@ -191,15 +226,14 @@ void ListEditing::forward(QEvent& event)
         combo->forward(&event);
 }
 
-// The row that a choice removes is hidden with its list by the one who applies it.
+// The list that is being applied is hidden by who applies it.
 void ListEditing::forgetDeadRows()
 {
     if (m_clicked == nullptr || m_tree.node(m_clicked) != nullptr)
         return;
     m_clicked = nullptr;
-    if (m_isApplying)
-        return;
-    clear();
+    if (m_applying.isNull() || m_applying != m_session.combo())
+        clear();
 }
 
 } // namespace condtree

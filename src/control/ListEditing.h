@@ -2,6 +2,7 @@
 
 #include <condtree/editing/ChoiceCache.h>
 #include <condtree/editing/ChoiceEntry.h>
+#include <condtree/editing/CloseUp.h>
 #include <condtree/editing/ComboSession.h>
 #include <condtree/editing/EditedTree.h>
 #include <condtree/editing/InputRelay.h>
@@ -71,7 +72,8 @@ private:
     void preselectKind(const KindListFor& list);
     void selectText(const CString& text, int start);
     void drop();
-    void hide();
+    [[nodiscard]] bool isStill(const QPointer<CommandCombo>& combo, HTREEITEM row) const;
+    [[nodiscard]] CloseUpResult apply(const QPointer<CommandCombo>& combo, int selected);
 
     QPointer<QTreeView> m_view;
     const Services& m_services;
@@ -83,7 +85,7 @@ private:
     ChoiceCache m_cache;
     InputRelay m_input;
     HTREEITEM m_clicked = nullptr;
-    bool m_isApplying = false;
+    QPointer<CommandCombo> m_applying; ///< whose choice is being applied
     std::function<void()> m_closedUp;
 };
 

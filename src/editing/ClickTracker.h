@@ -2,6 +2,7 @@
 
 #include <condtree/platform/WinTypes.h>
 
+#include <cstdint>
 #include <optional>
 
 namespace condtree {
@@ -13,7 +14,12 @@ public:
     /// How far the pointer may go either way, in device-independent pixels.
     static constexpr LONG kDragDistance = 4;
 
-    void press(POINT point) { m_pressedAt = point; }
+    /// when is the event's time in milliseconds.
+    void press(POINT point, std::uint64_t when = 0);
+    /// Whether a press that the desktop calls the second of a double click is one here too: not
+    /// when the first went to a list that it closed.
+    [[nodiscard]] bool isSecondPress(POINT point, std::uint64_t when,
+                                     int doubleClickInterval) const;
     /// Nothing that follows is a click until the next press: the second press of a double click, or
     /// a drag that has begun.
     void cancel() { m_pressedAt.reset(); }
@@ -24,6 +30,8 @@ public:
 
 private:
     std::optional<POINT> m_pressedAt;
+    POINT m_lastPoint{};
+    std::optional<std::uint64_t> m_lastPress; ///< its time
 };
 
 } // namespace condtree

@@ -62,8 +62,7 @@ bool InputRelay::eventFilter(QObject* receiver, QEvent* event)
         || belongsTo(*m_list, receiver))
         return false;
     const Hook hook = m_hook; // this may go meanwhile
-    hook(event);
-    return true;
+    return hook(event);
 }
 
 } // namespace condtree

@@ -13,12 +13,13 @@ namespace condtree {
 /// whichever of them has the focus.
 class InputRelay final : public QObject {
 public:
-    using Hook = std::function<void(QEvent*)>;
+    using Hook = std::function<bool(QEvent*)>;
 
     InputRelay() = default;
     ~InputRelay() override;
 
-    /// What gets the events. It may call leave, and delete this with whatever owns it.
+    /// What gets the events, and answers whether it took one. It may call leave, and delete this
+    /// with whatever owns it.
     void setHook(Hook hook);
     /// Listens until leave is called. What list's own widgets get, it has already.
     void listenFor(QWidget& list);

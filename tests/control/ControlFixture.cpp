@@ -60,6 +60,8 @@ Services ControlFixture::services()
         return 0;
     };
     ports.string = [this](LONG id, const char16_t*, const char16_t*, const char16_t* text) {
+        if (duringText)
+            duringText(id);
         const auto found = translations.find(id);
         return found == translations.end() ? QString::fromUtf16(text) : found->second;
     };
@@ -68,6 +70,7 @@ Services ControlFixture::services()
                : metric == SM_CYSMICON ? iconSize.height()
                                        : realSystemMetric(metric);
     };
+    ports.localTime = [this] { return now ? *now : realServices().localTime(); };
     ports.cursorPos = [this] { return pointer; };
     ports.bitsPerPixel = [this] { return bitsPerPixel; };
     registry = std::make_shared<RegFileStore>(

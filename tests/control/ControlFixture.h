@@ -8,12 +8,14 @@
 #include <gtest/gtest.h>
 
 #include <QColor>
+#include <QPointer>
 #include <QSize>
 #include <QTemporaryDir>
 
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -43,11 +45,34 @@ public:
     using CondTreeCtrl::mlGetIDForGroupName;
     using CondTreeCtrl::mlGetIDForUserName;
     using CondTreeCtrl::moGetWorkflowAndStateName;
+    using CondTreeCtrl::mvAddComboCmd;
     using CondTreeCtrl::mvAlterArgument;
+    using CondTreeCtrl::mvChangeNodeType;
+    using CondTreeCtrl::mvClearCombo;
     using CondTreeCtrl::mvOnClickValue;
     using CondTreeCtrl::mvUpdateTypeName;
-    using CondTreeCtrl::OnNMClick;
     using CondTreeCtrl::OnNMCustomdraw;
+    using CondTreeCtrl::PreTranslateMessage;
+
+    int closeUps = 0;            ///< how often a list was told to have closed
+    bool appliesCloseUps = true; ///< whether the control then does what it does
+    int clicks = 0;              ///< how often a click was told
+    LRESULT clickResult = -1;    ///< what the last click came to
+
+    void OnComboCloseup() override
+    {
+        ++closeUps;
+        if (appliesCloseUps)
+            CondTreeCtrl::OnComboCloseup();
+    }
+    void OnNMClick(NMHDR* header, LRESULT* result) override
+    {
+        ++clicks;
+        const QPointer<OpenCtrl> self(this);
+        CondTreeCtrl::OnNMClick(header, result);
+        if (!self.isNull())
+            clickResult = *result;
+    }
 };
 
 /// A record, with the fields that matter in the order in which they are told apart.
@@ -110,7 +135,9 @@ protected:
     std::vector<QWidget*> messageOwners;
     std::vector<unsigned> messageTypes;
     std::function<void()> duringMessage;  ///< what the host does while a message is open
+    std::function<void(LONG)> duringText; ///< what it does when a text is asked for, by its id
     std::map<LONG, QString> translations; ///< by text id; the default where there is none
+    std::optional<SYSTEMTIME> now;        ///< what the clock says; the real time when empty
     int bitsPerPixel = 32;
     QSize iconSize{20, 24};
     POINT pointer{-1000, -1000}; ///< where the pointer is on the screen; nowhere

@@ -65,5 +65,15 @@ TEST(ClickTracker, ACancelledPressIsNoClick)
     EXPECT_TRUE(tracker.release({0, 0}));
 }
 
+TEST(ClickTracker, ASecondPressNeedsAFirstOneThereAndThen)
+{
+    ClickTracker tracker;
+    EXPECT_FALSE(tracker.isSecondPress({10, 10}, 1000, 400)) << "the first went elsewhere";
+    tracker.press({10, 10}, 1000);
+    EXPECT_TRUE(tracker.isSecondPress({14, 6}, 1400, 400));
+    EXPECT_FALSE(tracker.isSecondPress({10, 10}, 1401, 400)) << "the first is too long ago";
+    EXPECT_FALSE(tracker.isSecondPress({15, 10}, 1001, 400)) << "the first was elsewhere";
+}
+
 } // namespace
 } // namespace condtree
