@@ -27,8 +27,6 @@ protected:
     /// closed, by the script or, if the script left it open, from outside.
     void picking(const std::function<void()>& open, const std::function<void()>& script)
     {
-        const ExpectWarning raise(QStringLiteral("does not support raise()"));
-        const ExpectWarning grab(QStringLiteral("does not support grabbing the keyboard"));
         bool hasRun = false;
         wasOpen = false;
         QTimer::singleShot(0, qApp, [&] {
@@ -213,8 +211,6 @@ TEST_F(DatePicking, TheWholeWindowMayGoWhileItIsOpen)
     const QPointer<CondTreeCtrl> alive(control.get());
     QPointer<QWidget> host(window.release());
     control.release(); // the window's now
-    const ExpectWarning raise(QStringLiteral("does not support raise()"));
-    const ExpectWarning grab(QStringLiteral("does not support grabbing the keyboard"));
     QTimer::singleShot(0, qApp, [&] { delete host; });
     QTest::mouseClick(host->windowHandle(), Qt::LeftButton, {}, at);
     EXPECT_EQ(alive, nullptr);

@@ -18,6 +18,7 @@ protected:
         for (int i = 0; i < count; ++i)
             records.push_back(author("pump"));
         loaded(records);
+        letEventsPass(); // a scroll bar comes
     }
     /// Types into the first row's value.
     void typeFirst()
@@ -54,7 +55,7 @@ TEST_F(InPlaceEndings, ResizingCommits)
     expectCommitted();
 }
 
-TEST_F(InPlaceEndings, ASubclassThatDeletesTheControlWhenItIsTooSmallSurvives)
+TEST_F(InPlaceEndings, TheHostIsNotLetInWhileTheControlIsResized)
 {
     loadMany(1);
     typeFirst();
@@ -187,7 +188,7 @@ TEST_F(InPlaceEndings, FinishingEditingTellsOfWhatAnEditorCommittedByItself)
 {
     loadMany(2);
     typeFirst();
-    clickBeside();
+    control->resize(700, 300);
     EXPECT_EQ(changes, 0);
     control->finishEditing();
     EXPECT_EQ(changes, 1);
