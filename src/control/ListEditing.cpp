@@ -9,6 +9,8 @@
 #include <condtree/refdata/ControlSettings.h>
 #include <condtree/refdata/ReferenceData.h>
 
+#include <QAbstractItemView>
+
 #include <utility>
 #include <variant>
 
@@ -59,6 +61,10 @@ CommandCombo* ListEditing::make(const RECT& cell, const ImgLst* images)
     CommandCombo& combo = m_session.create(m_view->viewport(), cell, m_services, images);
     if (const VarTreeCtrlNode* node = m_tree.node(m_clicked))
         combo.setAccessibleName(node->mName);
+    // It has a style sheet, which keeps its parts from the colours of what is around them.
+    for (QWidget* part : {static_cast<QWidget*>(&combo), static_cast<QWidget*>(combo.view()),
+                          combo.view()->viewport()})
+        part->setPalette(m_view->palette());
     QObject::connect(&combo, &CommandCombo::closedUp, m_view.data(), [this] {
         const auto closedUp = m_closedUp; // this may go meanwhile
         closedUp();

@@ -1,6 +1,6 @@
 #include "CellHand.h"
 
-#include <condtree/editing/PickDateDlg.h>
+#include <QAbstractItemView>
 
 namespace condtree::test {
 namespace {
@@ -224,6 +224,26 @@ TEST_F(ValueClicks, AllOtherRowsAreEditedAsText)
         EXPECT_EQ(whatIsOpen(), "'before'") << code << " " << op;
         control->finishEditing();
     }
+}
+
+TEST_F(ValueClicks, OnADarkDesktopAListIsAsWhiteAsTheRows)
+{
+    const QPalette light = QApplication::palette();
+    QPalette dark = light;
+    dark.setColor(QPalette::Base, Qt::black);
+    dark.setColor(QPalette::Text, Qt::white);
+    QApplication::setPalette(dark);
+    letEventsPass(); // the window is told
+    row(6, 100);
+    click(0, 2);
+    ASSERT_NE(list(), nullptr);
+    const QWidget* const parts[] = {list(), list()->view(), list()->view()->viewport()};
+    for (const QWidget* part : parts) {
+        EXPECT_EQ(part->palette().color(QPalette::Base), QColor(Qt::white));
+        EXPECT_EQ(part->palette().color(QPalette::Text), control->palette().color(QPalette::Text));
+    }
+    EXPECT_EQ(list()->grab().toImage().pixelColor(6, list()->height() / 2), QColor(Qt::white));
+    QApplication::setPalette(light);
 }
 
 TEST_F(ValueClicks, TheHostMayDeleteTheRowOrTheControlWhileAFailureIsTold)
