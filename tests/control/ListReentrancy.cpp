@@ -315,10 +315,11 @@ TEST_F(ListReentrancy, AListStaysWhenAnotherRowGoes)
 TEST_F(ListReentrancy, AListThatTheHostOpenedWhileAChoiceWasAppliedStays)
 {
     const VarTreeCtrlNode& row = begin(kText);
-    library->getUsers.results = {E_FAIL};
-    duringMessage = [this] { openAnother(); };
+    library->getUsers.during = [this] { openAnother(); };
     click(row, 0);
     choose("User");
+    library->getUsers.during = nullptr;
+    EXPECT_EQ(toText(row), "9 User | smith op=100 arg=1 id=7");
     ASSERT_TRUE(isOpen());
     EXPECT_EQ(combo()->entryCount(), 21) << "the operators of the other row";
     choose("String Equal To");

@@ -4,8 +4,11 @@
 #include <condtree/storedprocs/SpSample.h>
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QTest>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace condtree::test {
 
@@ -104,6 +107,14 @@ void DesktopFixture::open(const VarTreeCtrlNode& row, int column)
     click(row, column);
     ASSERT_TRUE(QTest::qWaitFor([this] { return isOpen(); }));
     ASSERT_TRUE(QTest::qWaitForWindowExposed(combo()->view()->window()));
+}
+
+void DesktopFixture::waitForEditor()
+{
+    ASSERT_TRUE(QTest::qWaitFor([this] {
+        const auto* editor = control->findChild<QWidget*>(QStringLiteral("902"));
+        return editor != nullptr && editor->isAncestorOf(QApplication::focusWidget());
+    }));
 }
 
 void DesktopFixture::expectClosed()

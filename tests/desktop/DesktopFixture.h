@@ -42,6 +42,8 @@ protected:
     [[nodiscard]] bool isOpen() const;
     /// Clicks on a cell and waits until its list is open.
     void open(const VarTreeCtrlNode& row, int column);
+    /// Waits until the in-place editor has the keyboard.
+    void waitForEditor();
     /// Waits until no list is visible.
     void expectClosed();
     /// Clicks on an entry of the open list.

@@ -103,6 +103,7 @@ TEST_F(Lists, AConditionIsPutTogetherFromThePlaceholder)
     Hand::screenshot(QStringLiteral("operators-of-a-number"));
     choose("Number Less Than");
     click(*group.mChildren.front(), 2);
+    waitForEditor();
     hand.type(QStringLiteral("3"));
     hand.key("Return");
     open(placeholder(), 0);
@@ -148,8 +149,7 @@ TEST_F(Lists, TheQuickSecondClickAfterTheOneThatClosedAListIsAClick)
     expectClosed();
     hand.press();
     hand.release();
-    ASSERT_TRUE(QTest::qWaitFor(
-        [this] { return control->findChild<QWidget*>(QStringLiteral("902")) != nullptr; }));
+    waitForEditor();
     hand.type(QStringLiteral("new"));
     hand.key("Return");
     EXPECT_TRUE(QTest::qWaitFor([this] { return changes > 0; }));
