@@ -399,6 +399,7 @@ void CondTreeCtrl::setColumns(const ColumnShares& columns)
 {
     if (std::exchange(m_parts->columns, columns) == columns)
         return;
+    m_parts->cells.rowsMove();
     viewport()->update();
     Q_EMIT columnsResized();
 }

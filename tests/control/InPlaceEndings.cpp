@@ -66,6 +66,15 @@ TEST_F(InPlaceEndings, TheHostIsNotLetInWhileTheControlIsResized)
     EXPECT_EQ(control, nullptr);
 }
 
+TEST_F(InPlaceEndings, AColumnThatBecomesWiderCommits)
+{
+    loadMany(1);
+    typeFirst();
+    const int width = control->viewport()->width();
+    control->mvResizeCol(0, control->miGetColumnSize(0, width) + 20, width);
+    expectCommitted();
+}
+
 TEST_F(InPlaceEndings, AnotherActiveWindowCommits)
 {
     loadMany(1);

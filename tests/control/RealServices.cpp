@@ -16,6 +16,7 @@
 #include <QScreen>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QTreeView>
 #include <QWidget>
 
 #include <memory>
@@ -102,7 +103,8 @@ TEST(RealServices, TheIconLibraryIsLookedForWhereTheSettingsNameIt)
     // A control whose settings are a host's own looks there, too.
     Services services;
     services.registry = registry;
-    const CondTreeParts parts(nullptr, services);
+    QTreeView view;
+    const CondTreeParts parts(view, services);
     EXPECT_EQ(parts.services.icons->loadImage(name, 3, pixels), IconResult::NoLibrary);
     EXPECT_EQ(warning.count(), 2);
 
