@@ -1,5 +1,6 @@
 #include "ConditionImages.h"
 
+#include <condtree/platform/WfIcons.h>
 #include <condtree/presentation/CDib.h>
 #include <condtree/presentation/ListIcon.h>
 #include <condtree/presentation/RowStyle.h>
@@ -21,13 +22,9 @@ constexpr std::array kRowIcons{u"PNG_NEW_FILE", u"PNG_AND",        u"PNG_OR",   
 /// In the order of the indices that the operators use, counted through.
 constexpr std::array kOperatorStrips{u"PNG_BLUE_OPS", u"PNG_RED_OPS", u"PNG_GREEN_OPS",
                                      u"PNG_YELLOW_OPS"};
-/// What the library is told that every picture is for.
-constexpr int kUse = 3;
 /// The library's strips are silver where they are transparent.
 constexpr COLORREF kMask = RGB(0xC0, 0xC0, 0xC0);
 constexpr int kFullColourBits = 24;
-/// A row icon with a longer side is taken for damaged; no screen needs one.
-constexpr int kLongestSide = 1024;
 
 /// A null image where the description is not one of a picture.
 QImage toImage(const IconPixels& pixels)
@@ -58,10 +55,11 @@ std::vector<QImage> loadRowIcons(IconLibrary& library)
     bool isThere = false;
     for (const char16_t* name : kRowIcons) {
         IconPixels pixels;
-        const IconResult result = library.loadIcon(CString::fromUtf16(name), kUse, pixels);
+        const IconResult result = library.loadIcon(CString::fromUtf16(name), kWfSmallIcon, pixels);
         isThere = isThere || result != IconResult::NoLibrary;
-        const bool isUsable =
-            result == IconResult::Loaded && std::max(pixels.width, pixels.height) <= kLongestSide;
+        // One with a longer side is taken for damaged; no screen needs it.
+        const bool isUsable = result == IconResult::Loaded
+                              && std::max(pixels.width, pixels.height) <= kWfLargestHeight;
         icons.push_back(isUsable ? toImage(pixels) : QImage());
     }
     return isThere ? icons : std::vector<QImage>{};
@@ -153,7 +151,7 @@ void ConditionImages::append(IconLibrary& library, const QSize& iconSize, int bi
     for (const char16_t* name : kOperatorStrips) {
         IconPixels pixels;
         const CString text = CString::fromUtf16(name);
-        if (library.loadImage(text, kUse, pixels) != IconResult::Loaded)
+        if (library.loadImage(text, kWfSmallIcon, pixels) != IconResult::Loaded)
             continue;
         dib.attach(toImage(pixels));
         m_operators->appendStrip(dib.bitmap(), kMask, [&library, text](const QSize& cell) {

@@ -9,7 +9,7 @@ namespace condtree {
 FittedText FittedTexts::fit(const QPainter& painter, const QString& text, int width, bool isElided)
 {
     const int dpi = painter.device()->logicalDpiY();
-    if (m_font != painter.font() || m_dpi != dpi || m_texts.size() >= kMost)
+    if (m_font != painter.font() || m_dpi != dpi)
         m_texts.clear();
     m_font = painter.font();
     m_dpi = dpi;
@@ -18,6 +18,8 @@ FittedText FittedTexts::fit(const QPainter& painter, const QString& text, int wi
     const auto known = m_texts.constFind(key);
     if (known != m_texts.constEnd())
         return *known;
+    if (m_texts.size() >= kMost)
+        m_texts.clear();
     const QFontMetrics metrics = painter.fontMetrics();
     FittedText fitted{text, metrics.horizontalAdvance(text)};
     if (isElided && fitted.width > width) {

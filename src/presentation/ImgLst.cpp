@@ -108,9 +108,7 @@ QImage ImgLst::image(int index, const QSize& pixels) const
         return {};
     if (original.size() == pixels && !m_background)
         return original;
-    if (m_editions.size() >= kMostEditions)
-        m_editions.clear();
-    Edition& edition = m_editions[{pixels.width(), pixels.height()}];
+    Edition& edition = editionOf(pixels);
     edition.resize(m_images.size());
     QImage& found = edition[static_cast<std::size_t>(index)];
     if (found.isNull())
@@ -171,6 +169,19 @@ void ImgLst::draw(QPainter& painter, int index, const QPoint& at) const
                               * below.inverted());
     painter.drawImage(QPoint(0, 0), image(index, pixels));
     painter.setWorldTransform(world);
+}
+
+/// The oldest one goes where one more would be too many.
+ImgLst::Edition& ImgLst::editionOf(const QSize& pixels) const
+{
+    const auto known =
+        std::find_if(m_editions.begin(), m_editions.end(),
+                     [&pixels](const auto& edition) { return edition.first == pixels; });
+    if (known != m_editions.end())
+        return known->second;
+    if (m_editions.size() >= kMostEditions)
+        m_editions.pop_front();
+    return m_editions.emplace_back(pixels, Edition{}).second;
 }
 
 QImage ImgLst::kept(const QImage& image) const

@@ -1,12 +1,13 @@
 #pragma once
 
+#include <condtree/platform/WfIcons.h>
 #include <condtree/platform/WinTypes.h>
 
 #include <QImage>
 #include <QSize>
 
 #include <functional>
-#include <map>
+#include <list>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -24,7 +25,7 @@ public:
     enum class Depth { Indexed8, Colour32 };
 
     /// No place for a picture has a longer side; larger ones are enlarged by the painter.
-    static constexpr int kLongestSide = 1024;
+    static constexpr int kLongestSide = kWfLargestHeight;
 
     /// Makes a strip again for pictures of so many pixels; a null image where it cannot.
     using Redraw = std::function<QImage(const QSize& cell)>;
@@ -77,6 +78,7 @@ private:
     /// Pictures of one size in pixels; null as long as nobody has asked.
     using Edition = std::vector<QImage>;
 
+    [[nodiscard]] Edition& editionOf(const QSize& pixels) const;
     [[nodiscard]] QImage kept(const QImage& image) const;
     [[nodiscard]] QImage shown(const QImage& image) const;
     void fillEdition(Edition& edition, int index, const QSize& pixels) const;
@@ -87,8 +89,9 @@ private:
     std::optional<COLORREF> m_background;
     Edition m_images;
     std::vector<Strip> m_strips;
-    // Asking for a picture in other pixels changes nothing that anyone can see.
-    mutable std::map<std::pair<int, int>, Edition> m_editions;
+    // Asking for a picture in other pixels changes nothing that anyone can see. Few, and in the
+    // order in which they were made.
+    mutable std::list<std::pair<QSize, Edition>> m_editions;
 };
 
 } // namespace condtree

@@ -14,7 +14,7 @@ namespace {
 Q_LOGGING_CATEGORY(lcIcons, "condtree.icons")
 
 /// More than the widest strip of the highest pictures, and few enough to be copied.
-constexpr std::int32_t kLongestSide = 64 * kWfLargestHeight;
+constexpr std::int32_t kWidestStrip = 64 * kWfLargestHeight;
 constexpr std::int64_t kMostPixels = std::int64_t{64} * kWfLargestHeight * kWfLargestHeight;
 
 bool isKnown(const WfImage& image)
@@ -25,7 +25,7 @@ bool isKnown(const WfImage& image)
 bool isPicture(const WfImage& image)
 {
     return image.bytes != nullptr && image.width > 0 && image.height > 0
-           && image.width <= kLongestSide && image.height <= kWfLargestHeight
+           && image.width <= kWidestStrip && image.height <= kWfLargestHeight
            && std::int64_t{image.width} * image.height <= kMostPixels;
 }
 

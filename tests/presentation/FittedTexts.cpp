@@ -91,4 +91,15 @@ TEST_F(FittedTextsTest, NoMoreThanAFewWindowsFullAreRemembered)
     EXPECT_EQ(texts.fit(painter, QStringLiteral("7"), 100, true).text, QStringLiteral("7"));
 }
 
+TEST_F(FittedTextsTest, ATextThatIsRememberedForgetsNothing)
+{
+    for (int i = 0; i < FittedTexts::kMost; ++i)
+        texts.fit(painter, QString::number(i), 100, true);
+    ASSERT_EQ(texts.count(), FittedTexts::kMost);
+    texts.fit(painter, QStringLiteral("7"), 100, true);
+    EXPECT_EQ(texts.count(), FittedTexts::kMost);
+    texts.fit(painter, QStringLiteral("a new one"), 100, true);
+    EXPECT_EQ(texts.count(), 1);
+}
+
 } // namespace

@@ -101,6 +101,33 @@ TEST(ImgLstSharpness, ManyRatiosDoNotPileUp)
     EXPECT_EQ(fine.asked.size(), 44U); // it was forgotten, and is drawn again
 }
 
+/// Asks for a picture in every side from first to last.
+void askForSides(const Fine& fine, int first, int last)
+{
+    for (int side = first; side <= last; ++side)
+        EXPECT_EQ(fine.list.image(2, {side, side}).size(), QSize(side, side));
+}
+
+TEST(ImgLstSharpness, AsManyRatiosAsAreKeptAreRedrawnOnce)
+{
+    const Fine fine;
+    askForSides(fine, 17, 24);
+    askForSides(fine, 17, 24);
+    EXPECT_EQ(fine.asked.size(), 8U);
+}
+
+TEST(ImgLstSharpness, OneRatioTooManyForgetsTheOldestAlone)
+{
+    const Fine fine;
+    askForSides(fine, 17, 25);
+    askForSides(fine, 18, 25);
+    EXPECT_EQ(fine.asked.size(), 9U);
+    askForSides(fine, 17, 17);
+    EXPECT_EQ(fine.asked.size(), 10U);
+    askForSides(fine, 19, 25); // what was made for 18 has gone now
+    EXPECT_EQ(fine.asked.size(), 10U);
+}
+
 TEST(ImgLstSharpness, PicturesAppendedLaterAreRedrawnToo)
 {
     Fine fine;
