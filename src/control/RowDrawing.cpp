@@ -55,12 +55,11 @@ LRESULT RowDrawing::handle(const NMTVCUSTOMDRAW& draw, const QTreeView& view) co
 
 void RowDrawing::paint(QPainter& painter, const VarTreeCtrlNode& node, const RowPlace& place) const
 {
-    const ImgLst noImages{QSize()};
-    const ImgLst& images = m_images.operators() == nullptr ? noImages : *m_images.operators();
     const RowLayout layout(place.row, place.textLeft, m_columns,
                            m_services.systemMetric(SM_CXSMICON));
     const RowContent content = contentOfRow(node, m_model.top());
-    paintRow(painter, describeRow(content, layout, m_services.string), images, m_texts);
+    paintRow(painter, describeRow(content, layout, m_services.string), m_images.operators(),
+             m_texts);
 }
 
 void RowDrawing::begin(NMTVCUSTOMDRAW draw, const Stage& stage, const QTreeView& view)
@@ -106,7 +105,7 @@ void RowDrawing::mark(const NMTVCUSTOMDRAW& draw, const QTreeView& view) const
     const QPalette& palette = view.palette();
     const COLORREF colour = markColour(palette, palette.currentColorGroup());
     if (const RowPicture picture = describeMarks(row, marks, colour); !picture.isEmpty())
-        paintRow(*draw.hdc, picture, ImgLst{QSize()}, m_texts);
+        paintRow(*draw.hdc, picture, nullptr, m_texts);
 }
 
 QSize RowDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const

@@ -47,7 +47,7 @@ QString shownText(const CString& text)
 
 class Executor {
 public:
-    Executor(QPainter& painter, const ImgLst& images, FittedTexts& texts)
+    Executor(QPainter& painter, const ImgLst* images, FittedTexts& texts)
         : m_painter(painter)
         , m_images(images)
         , m_texts(texts)
@@ -86,7 +86,8 @@ public:
 
     void operator()(const ImagePrimitive& image) const
     {
-        m_images.draw(m_painter, image.index, {image.at.x, image.at.y});
+        if (m_images != nullptr)
+            m_images->draw(m_painter, image.index, {image.at.x, image.at.y});
     }
 
     void operator()(const TextPrimitive& text) const
@@ -128,7 +129,7 @@ private:
     }
 
     QPainter& m_painter;
-    const ImgLst& m_images;
+    const ImgLst* m_images;
     FittedTexts& m_texts;
     QFontMetrics m_metrics;
     PixelGrid m_grid;
@@ -136,7 +137,7 @@ private:
 
 } // namespace
 
-void paintRow(QPainter& painter, const RowPicture& picture, const ImgLst& operatorImages,
+void paintRow(QPainter& painter, const RowPicture& picture, const ImgLst* operatorImages,
               FittedTexts& texts)
 {
     // Soft edges would blur what does not lie on whole pixels, and leave gaps between rows.

@@ -15,10 +15,10 @@ class ImgLst;
 /// Lines run horizontally or vertically, on whole pixels of the device and equally thick. A text is
 /// one line, elided at the end and clipped to its rectangle; control characters and line breaks are
 /// drawn as blanks, and of a very long text only the beginning is looked at. Image indices outside
-/// the list, and rectangles without area, draw nothing.
+/// the list, images where the list is null, and rectangles without area, draw nothing.
 ///
 /// texts remembers what was measured.
-void paintRow(QPainter& painter, const RowPicture& picture, const ImgLst& operatorImages,
+void paintRow(QPainter& painter, const RowPicture& picture, const ImgLst* operatorImages,
               FittedTexts& texts);
 
 } // namespace condtree

@@ -1,6 +1,5 @@
 // The lines of rows on screens of every density: crisp, equally thick, and without gaps.
 #include <condtree/presentation/FittedTexts.h>
-#include <condtree/presentation/ImgLst.h>
 #include <condtree/presentation/RowPainter.h>
 
 #include <gtest/gtest.h>
@@ -88,7 +87,7 @@ public:
         painter.translate(device.origin);
         FittedTexts texts;
         for (int row = 0; row < kRows; ++row)
-            paintRow(painter, rowPicture(row), ImgLst({16, 16}), texts);
+            paintRow(painter, rowPicture(row), nullptr, texts);
         EXPECT_EQ(painter.testRenderHint(QPainter::Antialiasing), device.isSoft);
     }
 

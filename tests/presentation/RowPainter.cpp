@@ -24,7 +24,7 @@ constexpr unsigned kFormat = 0x8024;
 void paintRow(QPainter& painter, const RowPicture& picture, const ImgLst& images)
 {
     FittedTexts texts;
-    paintRow(painter, picture, images, texts);
+    paintRow(painter, picture, &images, texts);
 }
 
 class Sheet {
@@ -38,7 +38,7 @@ public:
     Sheet& paint(const RowPicture& picture, const ImgLst& images = ImgLst({16, 16}))
     {
         QPainter painter(&m_image);
-        paintRow(painter, picture, images, texts);
+        paintRow(painter, picture, &images, texts);
         return *this;
     }
 
@@ -434,6 +434,18 @@ TEST(RowPainter, AFrameIsOneLogicalPixelOnADenseScreen)
 ..##..##..
 ..######..
 ..######..)");
+}
+
+TEST(RowPainter, WithoutAListOfImagesTheRestIsPainted)
+{
+    QImage sheet(40, 40, QImage::Format_RGB32);
+    sheet.fill(Qt::white);
+    QPainter painter(&sheet);
+    FittedTexts texts;
+    condtree::paintRow(painter, {ImagePrimitive{0, {1, 1}}, FramePrimitive{{1, 1, 6, 5}, kBlue}},
+                       nullptr, texts);
+    EXPECT_EQ(sheet.pixel(1, 1), kBluePixel);
+    EXPECT_EQ(sheet.pixel(3, 3), kPaper);
 }
 
 } // namespace

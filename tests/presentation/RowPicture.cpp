@@ -1,6 +1,7 @@
 #include <condtree/presentation/RowPicture.h>
 
 #include <condtree/model/ComboCmd.h>
+#include <condtree/model/VarTreeCtrlNode.h>
 
 #include "presentation/PictureText.h"
 
@@ -281,6 +282,23 @@ TEST(RowPicture, TheColoursAreTheFixedOnes)
               14459040U);
     EXPECT_EQ(all<FillPrimitive>(describeRow(condition(3, 100), kLayout, knownTexts)).at(0).colour,
               RGB(255, 255, 255));
+}
+
+TEST(RowPicture, AWholeRowHasRoomInThePictureAndSharesItsTexts)
+{
+    const RowContent content = condition(NodeVariable, 106);
+    const CString operatorText = QStringLiteral("shared");
+    const RowPicture picture = describeRow(
+        content, kLayout, [&operatorText](LONG, const char16_t*, const char16_t*, const char16_t*) {
+            return operatorText;
+        });
+    EXPECT_EQ(picture.capacity(), RowPicture().capacity()); // none of it is on the heap
+    const std::vector<TextPrimitive> texts = all<TextPrimitive>(picture);
+    ASSERT_EQ(texts.size(), 4U);
+    EXPECT_EQ(texts[0].text.constData(), content.name.constData());
+    EXPECT_EQ(texts[1].text.constData(), operatorText.constData());
+    EXPECT_EQ(texts[2].text.constData(), content.value.constData());
+    EXPECT_EQ(texts[3].text.constData(), content.extra.constData());
 }
 
 } // namespace
