@@ -89,8 +89,8 @@ bool looksLike(const QImage& a, const QImage& b)
     const QImage first = onWhite(a);
     const QImage second = onWhite(b);
     constexpr int rounding = 40;
-    for (int y = 0; y < kHeight; ++y) {
-        for (int x = 0; x < kHeight; ++x) {
+    for (int y = 0; y < first.height(); ++y) {
+        for (int x = 0; x < first.width(); ++x) {
             const QRgb p = first.pixel(x, y);
             const QRgb q = second.pixel(x, y);
             if (std::abs(qRed(p) - qRed(q)) > rounding || std::abs(qGreen(p) - qGreen(q)) > rounding
@@ -215,6 +215,21 @@ TEST(RowIcons, NewIsAGreenPlusAndDeleteIsRed)
     const QImage bin = rowIcon(u"PNG_DELETE");
     EXPECT_TRUE(isEvenSided(bin));
     EXPECT_NEAR(colourAt(bin, kMiddle, 20).hsvHue(), 3, 8);
+}
+
+TEST(RowIcons, ThePlusIsInTheMiddleAndOnWholePixelsAtEverySize)
+{
+    for (const int height : {16, 20, 24, 32, 40, 48}) {
+        const QImage plus = taken(Module().atSize(u"PNG_NEW_FILE", height));
+        for (const QImage& turned : {plus.mirrored(true, false), plus.mirrored(false, true),
+                                     plus.transformed(QTransform().rotate(90))})
+            EXPECT_TRUE(looksLike(plus, turned)) << height;
+        // Across the upright arm.
+        for (int x = 0; x < height; ++x) {
+            const int alpha = qAlpha(plus.pixel(x, height * 5 / 16));
+            EXPECT_TRUE(alpha == 0 || alpha == 0xFF) << height << ", column " << x;
+        }
+    }
 }
 
 TEST(RowIcons, AUserIsOneFigureAndGroupsAreTwo)

@@ -225,4 +225,25 @@ TEST(OperatorStrips, BarsBeginAndEndAtWholePixels)
     }
 }
 
+TEST(OperatorStrips, TheUprightArmOfPatternBeginsAndEndsAtWholePixels)
+{
+    // Across its upper part there is nothing but the clear, the tile and the arm in its middle.
+    for (const int height : kHeights) {
+        const QImage image = operatorImages(height).at(8);
+        const QRgb tile = mainColour(image);
+        const int y = height * 5 / 16;
+        std::vector<int> arm;
+        for (int x = 0; x < height; ++x) {
+            const QRgb pixel = image.pixel(x, y);
+            EXPECT_TRUE(pixel == kSilver || pixel == tile || pixel == kWhite)
+                << height << ", column " << x << ": " << std::hex << pixel;
+            if (pixel == kWhite)
+                arm.push_back(x);
+        }
+        ASSERT_GE(arm.size(), 2U) << height;
+        EXPECT_EQ(arm.front() + arm.back(), height - 1) << height;
+        EXPECT_EQ(arm.back() - arm.front() + 1, static_cast<int>(arm.size())) << height;
+    }
+}
+
 } // namespace
