@@ -15,6 +15,7 @@
 #include <QEvent>
 #include <QHeaderView>
 #include <QPainter>
+#include <QPointer>
 
 #include <optional>
 #include <utility>
@@ -83,6 +84,9 @@ void CondTreeCtrl::mvInitialize(SpMgr* manager, LONG dateStyle, KiroVaultType va
 {
     m_parts->setUp(manager, dateStyle, vaultType, treeType);
     setIconSize(m_parts->appendImages());
+    // Pictures may have come without another size.
+    scheduleDelayedItemsLayout();
+    viewport()->update();
 }
 
 void CondTreeCtrl::mvSetTransitionType(LONG transitionType)
@@ -397,11 +401,15 @@ void CondTreeCtrl::followDesktop()
 // The signal comes last: the host may delete the control in it.
 void CondTreeCtrl::setColumns(const ColumnShares& columns)
 {
-    if (std::exchange(m_parts->columns, columns) == columns)
+    const auto parts = m_parts;
+    const QPointer<CondTreeCtrl> self(this);
+    if (std::exchange(parts->columns, columns) == columns)
         return;
     m_parts->cells.rowsMove();
     viewport()->update();
-    Q_EMIT columnsResized();
+    parts->cells.rowsMove();
+    if (!self.isNull())
+        Q_EMIT columnsResized();
 }
 
 } // namespace condtree
