@@ -1,7 +1,9 @@
-#include <benchmark/benchmark.h>
+#include "LimitReporter.h"
 
 #include <QApplication>
 #include <QTemporaryDir>
+
+#include <cstdlib>
 
 int main(int argc, char** argv)
 {
@@ -14,7 +16,8 @@ int main(int argc, char** argv)
     const QApplication application(argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 1;
-    benchmark::RunSpecifiedBenchmarks();
+    condtree::bench::LimitReporter reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
     benchmark::Shutdown();
-    return 0;
+    return reporter.isExceeded() ? EXIT_FAILURE : EXIT_SUCCESS;
 }
