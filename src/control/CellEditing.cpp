@@ -62,6 +62,7 @@ int CellEditing::columnAt(POINT point, HTREEITEM item, RECT& cell) const
 
 void CellEditing::click(POINT onScreen)
 {
+    m_lists.settle(); // for the row that was clicked before
     m_lists.begin();
     if (m_view.isNull())
         return;
@@ -71,6 +72,8 @@ void CellEditing::click(POINT onScreen)
     VarTreeCtrlNode* node = m_needs.model.node(hit.item);
     RECT cell{};
     const int column = node == nullptr ? -1 : columnAt(point, hit.item, cell);
+    if (m_needs.model.node(hit.item) != node) // metrics are the host's
+        return;
     const ClickAction action = decideClick(hit.flags, node, m_needs.model.top(), column);
     if (std::holds_alternative<IgnoreClick>(action))
         return;
@@ -156,14 +159,19 @@ bool CellEditing::typeDate(const QKeyEvent& key)
     if (m_view.isNull() || !m_view->hasFocus() || !typesCharacter(key))
         return false;
     const QModelIndex current = m_view->currentIndex();
-    VarTreeCtrlNode* node = m_needs.model.node(m_needs.model.itemOf(current));
-    if (node == nullptr || !std::holds_alternative<OpenDatePicker>(valueEditorOf(*node)))
+    const HTREEITEM item = m_needs.model.itemOf(current);
+    const VarTreeCtrlNode* typedOn = m_needs.model.node(item);
+    if (typedOn == nullptr || !std::holds_alternative<OpenDatePicker>(valueEditorOf(*typedOn)))
         return false;
-    m_view->scrollTo(current);
-    const std::optional<RowLayout> layout = layoutOf(node->mhItem);
-    if (!layout)
-        return false;
+    m_lists.settle();
+    if (!m_view.isNull())
+        m_view->scrollTo(m_needs.model.indexOf(item));
     m_lists.dismiss();
+    // All of that lets the host in.
+    const std::optional<RowLayout> layout = layoutOf(item);
+    VarTreeCtrlNode* node = m_needs.model.node(item);
+    if (!layout || node == nullptr)
+        return true;
     editValue(*node, layout->cellToEdit(kValueColumn));
     m_inPlace.type(key);
     return true;
@@ -220,10 +228,7 @@ void CellEditing::openDocumentTypes(const RECT& cell)
     auto entries = std::make_shared<ChoiceEntries>();
     const HRESULT code = fetchDocumentTypes(*entries);
     if (FAILED(code))
-        m_needs.services.messageBox(
-            m_view.data(),
-            ResultCodeText(code, m_needs.services.string, m_needs.services.resultTexts.get()),
-            MB_ICONERROR);
+        m_needs.report(code, MB_ICONERROR);
     if (m_lists.clicked() == item)
         m_lists.openValues(cell, entries);
 }
@@ -250,13 +255,16 @@ void CellEditing::rowsMove()
     m_inPlace.finishMeanwhile();
 }
 
-void CellEditing::rowsGo()
+// A list that nobody closed chooses nothing.
+void CellEditing::rowsShift()
 {
+    m_lists.dismiss();
     m_inPlace.finishMeanwhile();
 }
 
 void CellEditing::rowsGone()
 {
+    m_lists.dismiss();
     m_lists.forgetDeadRows();
     m_inPlace.forgetDeadRows();
 }

@@ -27,6 +27,8 @@ struct CellEditingNeeds {
     const ColumnShares& columns;
     const ConditionModel& model;
     EditedTree& tree;
+    /// Shows the message of a result code, in a box of a type.
+    std::function<void(HRESULT code, unsigned type)> report;
 };
 
 /// Opens the editor that a click on a cell asks for: a list, the in-place editor or the date
@@ -51,8 +53,8 @@ public:
 
     /// The rows move: what is open over them finishes, or closes.
     void rowsMove();
-    /// Rows are about to go.
-    void rowsGo();
+    /// Rows come, go, open or close: others may soon be where they are.
+    void rowsShift();
     /// Rows are gone.
     void rowsGone();
     /// The view goes.

@@ -56,8 +56,9 @@ public:
     void mvSave(std::vector<TransCond>& records, VarTreeCtrlNode* node = nullptr,
                 bool alterArguments = false);
 
-    /// Commits what was typed into an editor that stands open in a cell, closes it, and has told of
-    /// the change when it returns. For hosts that save at a key, which leaves the focus where it
+    /// Applies what was chosen from a list that has closed, commits what was typed into an editor
+    /// that stands open in a cell, closes it, and has told of the changes when it returns. A list
+    /// that is still open stays so. For hosts that save at a key, which leaves the focus where it
     /// is.
     void finishEditing();
 
@@ -151,8 +152,9 @@ protected:
     /// A click on the tree: opens the editor of the cell below the pointer, if it has one. header
     /// is not looked at; result becomes 0.
     virtual void OnNMClick(NMHDR* header, LRESULT* result);
-    /// Gives an open list what is typed and the turns of the wheel. False: the event then takes its
-    /// usual way.
+    /// Gives an open list what is typed and the turns of the wheel. False: there is nothing else
+    /// that is translated here. While a list is open this is called with what any widget gets of
+    /// them, which then is the list's alone.
     virtual bool PreTranslateMessage(QEvent* event);
     /// Adds an entry to the list that is open over a cell, at a position; image is its index in the
     /// list's image list or -1. An operator's text is its name, and text its default. Nothing

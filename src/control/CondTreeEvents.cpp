@@ -33,14 +33,15 @@ void CondTreeCtrl::connectModel()
     CellEditing* cells = &m_parts->cells;
     connect(model, &ConditionModel::expandRequested, this, &QTreeView::expand);
     connect(model, &ConditionModel::textsChanged, viewport(), qOverload<>(&QWidget::update));
-    connect(model, &QAbstractItemModel::rowsAboutToBeRemoved, this, [cells] { cells->rowsGo(); });
-    connect(model, &QAbstractItemModel::modelAboutToBeReset, this, [cells] { cells->rowsGo(); });
+    connect(model, &QAbstractItemModel::rowsAboutToBeRemoved, this,
+            [cells] { cells->rowsShift(); });
+    connect(model, &QAbstractItemModel::modelAboutToBeReset, this, [cells] { cells->rowsShift(); });
     connect(model, &QAbstractItemModel::rowsRemoved, this, [cells] { cells->rowsGone(); });
     connect(model, &QAbstractItemModel::modelReset, this, [cells] { cells->rowsGone(); });
     // Rows below move, and what is open over them stands over others.
-    connect(model, &QAbstractItemModel::rowsInserted, this, [cells] { cells->rowsMove(); });
-    connect(this, &QTreeView::expanded, this, [cells] { cells->rowsMove(); });
-    connect(this, &QTreeView::collapsed, this, [cells] { cells->rowsMove(); });
+    connect(model, &QAbstractItemModel::rowsInserted, this, [cells] { cells->rowsShift(); });
+    connect(this, &QTreeView::expanded, this, [cells] { cells->rowsShift(); });
+    connect(this, &QTreeView::collapsed, this, [cells] { cells->rowsShift(); });
 }
 
 void CondTreeCtrl::connectEditors()
@@ -70,6 +71,7 @@ void CondTreeCtrl::OnComboCloseup()
 void CondTreeCtrl::finishEditing()
 {
     const auto parts = m_parts;
+    parts->cells.lists().settle();
     parts->cells.inPlace().settle();
 }
 
@@ -111,6 +113,7 @@ void CondTreeCtrl::mouseReleaseEvent(QMouseEvent* event)
     NMHDR header{this, 0, NM_CLICK};
     LRESULT result = 0;
     OnNMClick(&header, &result);
+    parts->clickedAt.reset(); // a subclass may not have looked
 }
 
 // The second press of a double click opens and closes groups, and is no click of its own; the
@@ -139,15 +142,19 @@ void CondTreeCtrl::keyPressEvent(QKeyEvent* event)
 void CondTreeCtrl::resizeEvent(QResizeEvent* event)
 {
     const auto parts = m_parts;
+    const QPointer<CondTreeCtrl> self(this);
     parts->cells.rowsMove();
-    QTreeView::resizeEvent(event);
+    if (!self.isNull())
+        QTreeView::resizeEvent(event);
 }
 
 void CondTreeCtrl::scrollContentsBy(int dx, int dy)
 {
     const auto parts = m_parts;
+    const QPointer<CondTreeCtrl> self(this);
     parts->cells.rowsMove();
-    QTreeView::scrollContentsBy(dx, dy);
+    if (!self.isNull())
+        QTreeView::scrollContentsBy(dx, dy);
 }
 
 } // namespace condtree

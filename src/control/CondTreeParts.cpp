@@ -59,7 +59,8 @@ CondTreeParts::CondTreeParts(QTreeView& view, Services ports)
     , saver(services.string, settings, reference.variables, model)
     , drawing(services, model, columns, images)
     , tree(model)
-    , cells({view, services, manager, settings, reference, images, columns, model, tree})
+    , cells({view, services, manager, settings, reference, images, columns, model, tree,
+             [this](HRESULT code, unsigned type) { report(code, type); }})
 {
 }
 
@@ -87,12 +88,12 @@ POINT CondTreeParts::takeClick()
     return click ? *click : services.cursorPos();
 }
 
-void CondTreeParts::report(HRESULT code) const
+void CondTreeParts::report(HRESULT code, unsigned type) const
 {
-    if (messageOwner.isNull())
-        return;
-    services.messageBox(messageOwner,
-                        ResultCodeText(code, services.string, services.resultTexts.get()), MB_OK);
+    // The text is the host's, who may delete the owner when asked.
+    const CString text = ResultCodeText(code, services.string, services.resultTexts.get());
+    if (!messageOwner.isNull())
+        services.messageBox(messageOwner, text, type);
 }
 
 } // namespace condtree

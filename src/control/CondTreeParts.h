@@ -56,7 +56,7 @@ struct CondTreeParts {
     [[nodiscard]] POINT takeClick();
     /// Shows the message of a result code and waits until it is closed. Nothing once the owner is
     /// gone.
-    void report(HRESULT code) const;
+    void report(HRESULT code, unsigned type = MB_OK) const;
 };
 
 } // namespace condtree

@@ -53,12 +53,25 @@ void ListEditing::clear()
     m_session.clear();
 }
 
+// The metrics are the host's, who may take the view away when asked: never while a list is made.
+Services ListEditing::knowingMetrics() const
+{
+    Services services = m_services;
+    const int scrollBar = services.systemMetric(SM_CXVSCROLL);
+    const int edge = services.systemMetric(SM_CXEDGE);
+    services.systemMetric = [scrollBar, edge](int metric) {
+        return metric == SM_CXVSCROLL ? scrollBar : edge;
+    };
+    return services;
+}
+
 CommandCombo* ListEditing::make(const RECT& cell, const ImgLst* images)
 {
     clear();
+    const Services services = knowingMetrics();
     if (m_view.isNull())
         return nullptr;
-    CommandCombo& combo = m_session.create(m_view->viewport(), cell, m_services, images);
+    CommandCombo& combo = m_session.create(m_view->viewport(), cell, services, images);
     if (const VarTreeCtrlNode* node = m_tree.node(m_clicked))
         combo.setAccessibleName(node->mName);
     // It has a style sheet, which keeps its parts from the colours of what is around them.
@@ -210,6 +223,12 @@ CloseUpResult ListEditing::apply(const QPointer<CommandCombo>& combo, int select
                     {m_tree, m_reference, m_settings, m_services.string, m_services.localTime});
     m_applying = outer;
     return result;
+}
+
+void ListEditing::settle()
+{
+    if (CommandCombo* combo = m_session.combo())
+        combo->tellClosed();
 }
 
 void ListEditing::close()

@@ -57,6 +57,8 @@ public:
     /// Applies what is selected in the list to the clicked row, and hides the list unless the
     /// choice could not be applied. Whether that changed anything.
     [[nodiscard]] bool closeUp();
+    /// Applies what was chosen from a list that has closed, if that is still to come.
+    void settle();
     /// Closes the list, if it is open, as clicking elsewhere does.
     void close();
     /// Takes the list away without applying anything, if it is open: another editor opens.
@@ -67,6 +69,7 @@ public:
     void forgetDeadRows();
 
 private:
+    [[nodiscard]] Services knowingMetrics() const;
     CommandCombo* make(const RECT& cell, const ImgLst* images);
     [[nodiscard]] KindListFor kindListFor() const;
     void preselectKind(const KindListFor& list);

@@ -3,8 +3,8 @@
 #include <condtree/editing/NodeChange.h>
 #include <condtree/editing/NodeWatch.h>
 #include <condtree/model/ComboCmd.h>
+#include <condtree/model/ConditionKind.h>
 #include <condtree/refdata/ControlSettings.h>
-#include <condtree/refdata/RecordText.h>
 #include <condtree/refdata/ReferenceData.h>
 #include <condtree/values/CommandCatalogue.h>
 #include <condtree/values/DefaultValue.h>
@@ -35,19 +35,6 @@ const SpuLightData* firstOf(const Lst<SpuLightData*>& people)
             return person;
     }
     return nullptr;
-}
-
-/// The name by which a list offers a person.
-CString offeredName(const SpuLightData& person, ShownName shown)
-{
-    const QStringView second = recordText(person.mSecondName);
-    const bool isSecond = shown == ShownName::Second && !second.isEmpty();
-    return (isSecond ? second : recordText(person.mName)).toString();
-}
-
-constexpr bool isChildRefState(LONG code)
-{
-    return code == ChildRefState || code == NodeHistoricState;
 }
 
 constexpr LONG kFirstUserChoice = 2000;
@@ -314,7 +301,7 @@ bool Choice::setPerson(People& people, ShownName shown)
     if (!isLoaded(people.init()))
         return false;
     if (const SpuLightData* person = firstOf(people.list())) {
-        m_node.mValue = offeredName(*person, shown);
+        m_node.mValue = offeredName(*person, shown).toString();
         m_node.mlUserOrGroupId = person->mlId;
     }
     return true;

@@ -241,12 +241,13 @@ void CommandCombo::popupHidden()
     m_search.clear();
     m_view->setShownRows({});
     update();
+    m_isUntold = true;
     QMetaObject::invokeMethod(this, &CommandCombo::tellClosed, Qt::QueuedConnection);
 }
 
 void CommandCombo::tellClosed()
 {
-    if (!m_isRetired)
+    if (std::exchange(m_isUntold, false) && !m_isRetired)
         Q_EMIT closedUp();
 }
 

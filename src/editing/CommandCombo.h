@@ -66,6 +66,9 @@ public:
     /// Applies a key that types something, or a turn of the wheel, to the open list as if it had
     /// got it. Does nothing when the list is closed, and when receiver is the list itself.
     void forward(QEvent* event, const QObject* receiver = nullptr);
+    /// Tells now, not later, that the list was closed, if that is not told yet: before something
+    /// else happens to the tree. The receiver may delete the combo.
+    void tellClosed();
     /// Takes it out of use: hides everything, tells nothing any more, and deletes it later.
     void retire();
 
@@ -94,7 +97,6 @@ private:
     void placeOver(const RECT& cell);
     void showEmptyPopup();
     void popupHidden();
-    void tellClosed();
     void closeIfFocusLeft();
     [[nodiscard]] bool isLostOnList(QEvent& event) const;
     [[nodiscard]] bool closesEmptyHanded(QEvent& event) const;
@@ -111,6 +113,7 @@ private:
     int m_margin;
     int m_droppedWidth = 0;
     bool m_isDropped = false;
+    bool m_isUntold = false;
     bool m_isRetired = false;
     bool m_isForwarding = false;
     TypedSearch m_search;

@@ -14,8 +14,12 @@ bool isInput(const QEvent& event)
 {
     if (event.type() == QEvent::Wheel)
         return true;
-    return event.type() == QEvent::KeyPress
-           && !static_cast<const QKeyEvent&>(event).text().isEmpty();
+    if (event.type() != QEvent::KeyPress)
+        return false;
+    const auto& key = static_cast<const QKeyEvent&>(event);
+    const bool isCommand = (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0;
+    const bool isTyped = !key.text().isEmpty() && key.text().at(0) >= QLatin1Char(' ');
+    return !isCommand && (isTyped || key.key() == Qt::Key_Backspace);
 }
 
 // A popup is a window of its own, and yet its list's child.

@@ -19,12 +19,6 @@ ChoiceEntry fixedValue(ComboCmd value, const StringSource& strings)
     return {value, choiceTextAsShown(value, text, strings), kNoImage};
 }
 
-QStringView userName(const SpuLightData& user, ShownName shown)
-{
-    const QStringView second = recordText(user.mSecondName);
-    return shown == ShownName::Second && !second.isEmpty() ? second : recordText(user.mName);
-}
-
 } // namespace
 
 ChoiceEntries objectTypeChoices(KiroVaultType vaultType, const StringSource& strings)
@@ -45,7 +39,7 @@ ChoiceEntries yesNoChoices(const StringSource& strings)
 ChoiceEntries userChoices(const Lst<SpuLightData*>& users, ShownName shown)
 {
     return recordChoices(users, [shown](const SpuLightData& user) {
-        return ChoiceEntry{UserChoice, userName(user, shown).toString(), kImageOfUserChoice};
+        return ChoiceEntry{UserChoice, offeredName(user, shown).toString(), kImageOfUserChoice};
     });
 }
 

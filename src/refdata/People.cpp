@@ -26,6 +26,12 @@ CString foldedName(QStringView name)
 
 } // namespace
 
+QStringView offeredName(const SpuLightData& person, ShownName shown)
+{
+    const QStringView second = recordText(person.mSecondName);
+    return shown == ShownName::Second && !second.isEmpty() ? second : recordText(person.mName);
+}
+
 People::People(Kind kind, const ManagerRef& manager, FailureReport report)
     : m_kind(kind)
     , m_manager(manager)

@@ -5,6 +5,7 @@
 #include <condtree/refdata/ManagerRef.h>
 
 #include <QHash>
+#include <QStringView>
 
 #include <vector>
 
@@ -12,6 +13,10 @@ namespace condtree {
 
 /// Which name of a record is shown.
 enum class ShownName { First, Second };
+
+/// The name by which lists offer a person: unlike a look-up by name, they offer one without a
+/// second name by the first.
+[[nodiscard]] QStringView offeredName(const SpuLightData& person, ShownName shown);
 
 /// The users, or the groups: loaded on first use and kept for good.
 class People {
