@@ -11,6 +11,7 @@
 #include <QImage>
 #include <QPainter>
 #include <QSignalSpy>
+#include <QTreeView>
 
 #include <array>
 #include <cmath>
@@ -123,6 +124,19 @@ TEST_F(CondTreeCtrlTest, InitializeMakesTheResolutionHelper)
     EXPECT_NE(CDPIHelper::pInstance, nullptr);
 }
 
+TEST_F(CondTreeCtrlTest, InitializeKeepsAResolutionHelperThatIsThere)
+{
+    CDPIHelper::deleteInstance();
+    CDPIHelper* const helper = CDPIHelper::get();
+    helper->setUseOSDPI(false);
+    helper->setVeltrixDPI(144);
+    initialize();
+    initialize();
+    EXPECT_EQ(CDPIHelper::pInstance, helper);
+    EXPECT_EQ(CDPIHelper::get()->getDPI_inUse(), 144);
+    CDPIHelper::deleteInstance();
+}
+
 // The pictures are requested in the order of their indices, so a row's colour tells its index.
 TEST_F(CondTreeCtrlTest, RowsCarryThePictureOfTheirKind)
 {
@@ -174,7 +188,8 @@ TEST_F(CondTreeCtrlTest, RowPicturesFollowTheDepthOfTheScreen)
 {
     for (const auto& [bits, depth] : {std::pair{16, 8}, {32, 32}}) {
         bitsPerPixel = bits;
-        CondTreeParts parts(nullptr, services());
+        QTreeView view;
+        CondTreeParts parts(view, services());
         parts.appendImages();
         EXPECT_EQ(parts.images.rows()->image(0).depth(), depth) << bits;
     }
@@ -192,7 +207,8 @@ TEST_F(CondTreeCtrlTest, MissingPicturesAreNoMessageAndTheRowsAreThere)
 
 TEST_F(CondTreeCtrlTest, TheSetUpKeepsWhatItIsGiven)
 {
-    CondTreeParts parts(nullptr, services());
+    QTreeView view;
+    CondTreeParts parts(view, services());
     EXPECT_EQ(parts.settings.dateStyle, 120);
     EXPECT_EQ(parts.settings.transitionType, 0);
     parts.setUp(nullptr, 103, static_cast<KiroVaultType>(5), static_cast<TreeType>(6));

@@ -33,6 +33,20 @@ class Rows final : public QListView {
 class LowercasecomboOrlist final : public QComboBox {
     Q_OBJECT
 };
+// Namespaces are part of a class's name: these are 246 characters.
+namespace FirstNamespaceWithALongNameOf80CharactersXxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx {
+namespace SecondNamespaceWithALongNameOf80CharactersXxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx {
+namespace ThirdNamespaceWithALongNameOf80CharactersXxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx {
+class AbcdCombo final : public QComboBox {
+    Q_OBJECT
+};
+class AbcdefghiCombo final : public QComboBox {
+    Q_OBJECT
+};
+} // namespace ThirdNamespaceWithALongNameOf80CharactersXxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx
+} // namespace SecondNamespaceWithALongNameOf80CharactersXxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx
+} // namespace FirstNamespaceWithALongNameOf80CharactersXxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx
+
 namespace condtree::test {
 
 namespace {
@@ -104,6 +118,21 @@ TEST(ListItemHeight, TheClassNameAndTheKindOfWidgetBothCount)
     EXPECT_FALSE(isChanged<Chooser>());
     EXPECT_FALSE(isChanged<Rows>());
     EXPECT_FALSE(isChanged<LowercasecomboOrlist>());
+}
+
+TEST(ListItemHeight, OfAClassNameTheFirst255CharactersCount)
+{
+    namespace deep =
+        FirstNamespaceWithALongNameOf80CharactersXxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx::
+            SecondNamespaceWithALongNameOf80CharactersXxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx::
+                ThirdNamespaceWithALongNameOf80CharactersXxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx;
+    const auto placeOfCombo = [](const QMetaObject& type) {
+        return QByteArray(type.className()).indexOf("Combo");
+    };
+    EXPECT_EQ(placeOfCombo(deep::AbcdCombo::staticMetaObject), 250);
+    EXPECT_TRUE(isChanged<deep::AbcdCombo>());
+    EXPECT_EQ(placeOfCombo(deep::AbcdefghiCombo::staticMetaObject), 255);
+    EXPECT_FALSE(isChanged<deep::AbcdefghiCombo>());
 }
 
 TEST(ListItemHeight, OtherWidgetsAndNoneStayAsTheyAre)

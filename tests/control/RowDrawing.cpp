@@ -85,7 +85,27 @@ TEST_F(RowDrawing, OnlyTheLastStagePaintsAndARowWithoutANodePaintsNothing)
     EXPECT_FALSE(paintsAt(CDDS_ITEMPREPAINT, item));
     EXPECT_FALSE(paintsAt(CDDS_PREPAINT, item));
     EXPECT_FALSE(paintsAt(CDDS_ITEMPOSTPAINT, nullptr));
-    EXPECT_TRUE(paintsAt(CDDS_ITEMPOSTPAINT, TVI_ROOT)); // the top, in the notification's rectangle
+}
+
+// Painted here a second time, from the rules: white up to the right edge, and the text 3 pixels in.
+TEST_F(RowDrawing, TheRootItemIsItsNodesCaptionAloneInTheNotificationsRectangle)
+{
+    loaded({record(3, 2, "Author", "a", 1, 100)});
+    const RECT rect{17, 5, 390, 33};
+    QImage image(403, 40, QImage::Format_RGB32);
+    image.fill(Qt::green);
+    QImage expected = image;
+    {
+        QPainter painter(&image);
+        stage(CDDS_ITEMPOSTPAINT, TVI_ROOT, &painter, rect);
+    }
+    QPainter painter(&expected);
+    painter.fillRect(17, 5, 373, 28, Qt::white);
+    const QFontMetrics metrics = painter.fontMetrics();
+    painter.drawText(17 + 3, 5 + (28 - metrics.height()) / 2 + metrics.ascent(),
+                     QStringLiteral("And"));
+    painter.end();
+    EXPECT_TRUE(image == expected);
 }
 
 TEST_F(RowDrawing, AConditionIsFramedFromItsTextToTheRightEdgeAndDividedByTheShares)
