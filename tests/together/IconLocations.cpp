@@ -13,6 +13,7 @@
 #include <QIcon>
 #include <QImage>
 #include <QTest>
+#include <QTreeView>
 
 #include <optional>
 #include <string>
@@ -119,30 +120,31 @@ void expectARowOfTextsAlone(const Host& host, const Row& row)
 /// The lists behind a control that is set up as the host's.
 void expectCounts(const Row& row)
 {
-    CondTreeParts parts(nullptr, Services{});
+    QTreeView view;
+    CondTreeParts parts(view, Services{});
     parts.setUp(nullptr, 120, KiroVaultType{}, TreeType{});
     parts.appendImages();
     EXPECT_EQ(parts.images.rows()->count(), row.rowPictures) << row.name;
     EXPECT_EQ(parts.images.operators()->count(), row.operatorPictures) << row.name;
 }
 
+const std::vector<Row> kRows{
+    {"relative", "Good", 0700, Name::Relative, " is not looked for: its location is relative", 0,
+     0},
+    {"a folder that all may write", "Good", 0777, Name::Absolute,
+     " is not loaded: others may write a folder that it lies in", 0, 0},
+    {"no library", "", 0700, Name::Absolute, " is not loaded: it is no ELF file", 0, 0},
+    {"no entry points", "NoEntryPoints", 0700, Name::Absolute,
+     "the icon library has no ghLoadWFPngImageIconAsPerDPI", 0, 0},
+    {"in the user's settings alone", "Good", 0700, Name::None, "there is no icon library", 0, 0},
+    // The last one, for what is bound stays so as long as the process runs.
+    {"no pictures", "NoPictures", 0700, Name::Absolute,
+     "the icon library has no picture PNG_NEW_FILE", 8, 0},
+};
+
 TEST(IconLocations, ALibraryThatCannotBeHadIsOneLineAndRowsOfTextsAlone)
 {
-    const std::vector<Row> rows{
-        {"relative", "Good", 0700, Name::Relative, " is not looked for: its location is relative",
-         0, 0},
-        {"a folder that all may write", "Good", 0777, Name::Absolute,
-         " is not loaded: others may write a folder that it lies in", 0, 0},
-        {"no library", "", 0700, Name::Absolute, " is not loaded: it is no ELF file", 0, 0},
-        {"no entry points", "NoEntryPoints", 0700, Name::Absolute,
-         "the icon library has no ghLoadWFPngImageIconAsPerDPI", 0, 0},
-        {"in the user's settings alone", "Good", 0700, Name::None, "there is no icon library", 0,
-         0},
-        // The last one, for what is bound stays so as long as the process runs.
-        {"no pictures", "NoPictures", 0700, Name::Absolute,
-         "the icon library has no picture PNG_NEW_FILE", 8, 0},
-    };
-    for (const Row& row : rows) {
+    for (const Row& row : kRows) {
         SCOPED_TRACE(row.name);
         const ModuleFiles good;
         good.write("WfIcons.dll", ModuleFiles::module("Good"));
