@@ -261,51 +261,56 @@ TEST_F(CommandLineErrors, WhatCannotBeWrittenIsNamed)
             text("standard output: cannot be written: No space left on device"), task);
 }
 
-TEST_F(CommandLineErrors, EveryBadImportIsOneLineAndLeavesTheDatabaseAlone)
-{
-    const QByteArray good = R"({"format":"condtree-condition","version":1,"records":[
+const QByteArray kGoodImport = R"({"format":"condtree-condition","version":1,"records":[
 {"rowKind":3,"condType":2,"name":"","extra":"","value":"v","argType":1,"operator":100}
 ]}
 )";
-    const auto with = [&](const char* part, const char* other) {
-        return QByteArray(good).replace(part, other);
-    };
-    struct Row {
-        const char* name;
-        QByteArray content;
-        const char* line;
-    };
-    const Row rows[] = {
-        {"empty", "", "the file is empty"},
-        {"no JSON", "hello\n", "not JSON: illegal value (byte 1, line 1)"},
-        {"cut", good.first(100), "not JSON: unterminated string (byte 100, line 2)"},
-        {"another format", with("condtree-condition", "x"),
-         "format: \"condtree-condition\" is expected, not \"x\""},
-        {"another version", with("\"version\":1", "\"version\":2"),
-         "version: 1 is expected, not 2"},
-        {"a field is missing", with(",\"operator\":100", ""),
-         "records[0].operator: the field is missing"},
-        {"a field is of another type", with(":100", ":\"100\""),
-         "records[0].operator: a number is expected, not a text"},
-        {"an unknown field", with("\"extra\"", "\"extr\\na\":\"\",\"extra\""),
-         "records[0]: the field \"extr\\u000aa\" is unknown"},
-        {"a fraction", with(":100", ":1.5"),
-         "records[0].operator: 1.5 is no whole number of 32 bits"},
-        {"too large a number", with(":100", ":2147483648"),
-         "records[0].operator: 2147483648 is no whole number of 32 bits"},
-        {"a key twice", with("\"argType\":1", "\"argType\":1,\"argType\":1"),
-         "not JSON: the key \"argType\" is given twice (byte 126, line 2)"},
-        {"an unpaired surrogate", with("\"v\"", "\"\\ud800\""),
-         "records[0].value: the text holds the unpaired surrogate U+D800"},
-        {"a null character", with("\"v\"", "\"\\u0000\""),
-         "records[0].value: the text holds U+0000"},
-        {"too deep", QByteArray(100000, '['),
-         "not JSON: too deeply nested document (byte 1025, line 1)"},
-        {"UTF-16", QByteArray("\xFF\xFE{\0", 4),
-         "the text is in UTF-16 or UTF-32; UTF-8 is expected"},
-    };
+
+/// The import with another text in the place of a part.
+QByteArray importWith(const char* part, const char* other)
+{
+    return QByteArray(kGoodImport).replace(part, other);
+}
+
+struct BadImport {
+    const char* name;
+    QByteArray content;
+    const char* line;
+};
+
+const std::vector<BadImport> kBadImports{
+    {"empty", "", "the file is empty"},
+    {"no JSON", "hello\n", "not JSON: illegal value (byte 1, line 1)"},
+    {"cut", kGoodImport.first(100), "not JSON: unterminated string (byte 100, line 2)"},
+    {"another format", importWith("condtree-condition", "x"),
+     "format: \"condtree-condition\" is expected, not \"x\""},
+    {"another version", importWith("\"version\":1", "\"version\":2"),
+     "version: 1 is expected, not 2"},
+    {"a field is missing", importWith(",\"operator\":100", ""),
+     "records[0].operator: the field is missing"},
+    {"a field is of another type", importWith(":100", ":\"100\""),
+     "records[0].operator: a number is expected, not a text"},
+    {"an unknown field", importWith("\"extra\"", "\"extr\\na\":\"\",\"extra\""),
+     "records[0]: the field \"extr\\u000aa\" is unknown"},
+    {"a fraction", importWith(":100", ":1.5"),
+     "records[0].operator: 1.5 is no whole number of 32 bits"},
+    {"too large a number", importWith(":100", ":2147483648"),
+     "records[0].operator: 2147483648 is no whole number of 32 bits"},
+    {"a key twice", importWith("\"argType\":1", "\"argType\":1,\"argType\":1"),
+     "not JSON: the key \"argType\" is given twice (byte 126, line 2)"},
+    {"an unpaired surrogate", importWith("\"v\"", "\"\\ud800\""),
+     "records[0].value: the text holds the unpaired surrogate U+D800"},
+    {"a null character", importWith("\"v\"", "\"\\u0000\""),
+     "records[0].value: the text holds U+0000"},
+    {"too deep", QByteArray(100000, '['),
+     "not JSON: too deeply nested document (byte 1025, line 1)"},
+    {"UTF-16", QByteArray("\xFF\xFE{\0", 4), "the text is in UTF-16 or UTF-32; UTF-8 is expected"},
+};
+
+TEST_F(CommandLineErrors, EveryBadImportIsOneLineAndLeavesTheDatabaseAlone)
+{
     const auto before = m_database.conditions();
-    for (const Row& row : rows)
+    for (const BadImport& row : kBadImports)
         expectImportRefused(fileOf("bad.json", row.content), text(row.line), row.name);
     EXPECT_TRUE(sameConditions(m_database.conditions(), before));
 }
