@@ -63,6 +63,16 @@ TEST_F(InPlaceEditing, TypingAndReturnCommitOnceAndTellOnce)
     EXPECT_EQ(topRow(0).mExtra, QStringLiteral("note"));
 }
 
+TEST_F(InPlaceEditing, AtReturnTheHostIsToldAtOnce)
+{
+    only(author("pump"));
+    click(0, 2);
+    letEventsPass();
+    type("valve");
+    QTest::keyClick(&field(), Qt::Key_Return); // lets no other events pass
+    EXPECT_EQ(changes, 1);
+}
+
 TEST_F(InPlaceEditing, TheTreeHasTheFocusAfterReturn)
 {
     only(author("pump"));
@@ -245,15 +255,17 @@ TEST_F(InPlaceEditing, OpeningAListCommits)
 
 TEST_F(InPlaceEditing, AnEditorTakesAnOpenListAwayAndAppliesNothing)
 {
-    only(author("pump"));
-    click(0, 1);
-    ASSERT_EQ(whatIsOpen(), "list");
-    const int other = list()->selection() == 0 ? 1 : 0;
-    list()->select(other);
-    tellClick(0, 2);
-    letEventsPass();
-    EXPECT_EQ(whatIsOpen(), "'pump'");
-    EXPECT_EQ(topRow(0).mlOperator, StringContains);
+    for (const int column : {2, 3}) {
+        only(author("pump", "note"));
+        click(0, 1);
+        ASSERT_EQ(whatIsOpen(), "list");
+        const int other = list()->selection() == 0 ? 1 : 0;
+        list()->select(other);
+        tellClick(0, column);
+        letEventsPass();
+        EXPECT_EQ(whatIsOpen(), column == 2 ? "'pump'" : "'note'");
+        EXPECT_EQ(topRow(0).mlOperator, StringContains);
+    }
     EXPECT_EQ(changes, 0);
 }
 
