@@ -27,8 +27,8 @@ constexpr int kValueColumn = 2;
 bool typesCharacter(const QKeyEvent& key)
 {
     constexpr auto kCommands = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
-    const CString text = key.text();
-    return !text.isEmpty() && text.front().isPrint() && !text.front().isSpace()
+    const QList<uint> typed = key.text().toUcs4();
+    return !typed.isEmpty() && QChar::isPrint(typed.front()) && !QChar::isSpace(typed.front())
            && (key.modifiers() & kCommands) == 0;
 }
 
@@ -78,6 +78,7 @@ void CellEditing::click(POINT onScreen)
     if (std::holds_alternative<IgnoreClick>(action))
         return;
     m_lists.setClicked(hit.item);
+    rememberPlace(hit.item);
     // An editor that is still open commits into the column that it was opened for.
     if (!std::holds_alternative<OpenNothing>(action))
         m_inPlace.finish();
@@ -135,6 +136,7 @@ void CellEditing::clickValue(VarTreeCtrlNode& node, const RECT& cell)
     m_inPlace.finish();
     if (m_view.isNull() || !watch.isThere())
         return;
+    rememberPlace(node.mhItem);
     const ValueEditorChoice choice = valueEditorOf(node);
     if (const auto* list = std::get_if<OpenValueList>(&choice)) {
         openValueList(*list, cell);
@@ -156,7 +158,13 @@ void CellEditing::editValue(VarTreeCtrlNode& node, const RECT& cell)
 bool CellEditing::typeDate(const QKeyEvent& key)
 {
     // What comes from a child was typed into another widget.
-    if (m_view.isNull() || !m_view->hasFocus() || !typesCharacter(key))
+    if (m_view.isNull() || !m_view->hasFocus())
+        return false;
+    if (m_inPlace.isEditing()) { // it has not got the focus yet, and is meant all the same
+        m_inPlace.type(key);
+        return true;
+    }
+    if (!typesCharacter(key))
         return false;
     const QModelIndex current = m_view->currentIndex();
     const HTREEITEM item = m_needs.model.itemOf(current);
@@ -210,15 +218,26 @@ SharedChoices CellEditing::valuesOf(ValueList list)
     case ValueList::Groups:
         return lists.groups.init() ? m_lists.cache().groups(lists.groups.list()) : nullptr;
     case ValueList::States:
-        return lists.states.mbInitWorkflowStates()
-                   ? m_lists.cache().states(lists.states, m_needs.services.string)
-                   : nullptr;
+        return lists.states.mbInitWorkflowStates() ? stateValues() : nullptr;
     case ValueList::NoUsers:
     case ValueList::NoGroups:
     case ValueList::DocumentTypes:
         break;
     }
     return made({});
+}
+
+/// Null when the memory does not suffice, which is told.
+SharedChoices CellEditing::stateValues()
+{
+    try {
+        return raisingOutOfMemory([&] {
+            return m_lists.cache().states(m_needs.reference.states, m_needs.services.string);
+        });
+    } catch (const _com_error& error) {
+        m_needs.report(error.Error(), MB_ICONERROR);
+        return nullptr;
+    }
 }
 
 // A failure is told before the list opens, which then has no entries.
@@ -240,10 +259,12 @@ HRESULT CellEditing::fetchDocumentTypes(ChoiceEntries& entries) const
         return S_OK;
     try {
         AutoLst<Lst<SpDocType::DocType*>> types;
-        const HRESULT code = raisingOutOfMemory([&] { return procedure->mhGetDocTypes(types); });
-        if (SUCCEEDED(code))
-            entries = docTypeChoices(types);
-        return code;
+        return raisingOutOfMemory([&] {
+            const HRESULT code = procedure->mhGetDocTypes(types);
+            if (SUCCEEDED(code))
+                entries = docTypeChoices(types);
+            return code;
+        });
     } catch (const _com_error& error) {
         return error.Error();
     }
@@ -253,20 +274,37 @@ void CellEditing::rowsMove()
 {
     m_lists.close();
     m_inPlace.finishMeanwhile();
+    m_inPlace.closePicker();
 }
 
-// A list that nobody closed chooses nothing.
-void CellEditing::rowsShift()
+std::optional<LONG> CellEditing::topOf(HTREEITEM item) const
 {
-    m_lists.dismiss();
+    const std::optional<RowPlace> place =
+        m_view.isNull() ? std::nullopt : placeOfRow(*m_view, m_needs.model.indexOf(item));
+    return place ? std::optional(place->row.top) : std::nullopt;
+}
+
+void CellEditing::rememberPlace(HTREEITEM item)
+{
+    m_openFor = item;
+    m_openAt = topOf(item);
+}
+
+void CellEditing::rowsAboutToShift()
+{
     m_inPlace.finishMeanwhile();
 }
 
-void CellEditing::rowsGone()
+// Where rows are is asked for only while something is open: it has the view lay them out.
+void CellEditing::rowsShift()
 {
-    m_lists.dismiss();
+    m_inPlace.finishMeanwhile();
     m_lists.forgetDeadRows();
     m_inPlace.forgetDeadRows();
+    if ((!m_lists.isOpen() && !m_inPlace.isPicking()) || topOf(m_openFor) == m_openAt)
+        return;
+    m_lists.dismiss();
+    m_inPlace.closePicker();
 }
 
 void CellEditing::shutDown()

@@ -47,16 +47,18 @@ public:
     void click(POINT onScreen);
     /// Opens the editor of a node's value over a cell. The node may be outside the tree.
     void clickValue(VarTreeCtrlNode& node, const RECT& cell);
-    /// A key that the view got. A character on a row whose value is picked from a calendar begins
-    /// to replace the value, in the in-place editor. False for other keys and rows.
+    /// A key that the view got. An in-place editor that is open has it; else a character on a row
+    /// whose value is picked from a calendar begins to replace the value, in the in-place editor.
+    /// False for other keys and rows.
     bool typeDate(const QKeyEvent& key);
 
     /// The rows move: what is open over them finishes, or closes.
     void rowsMove();
-    /// Rows come, go, open or close: others may soon be where they are.
+    /// Rows are about to come or go.
+    void rowsAboutToShift();
+    /// Rows came, went, opened or closed: what is open over others than its own now closes, and
+    /// chooses nothing.
     void rowsShift();
-    /// Rows are gone.
-    void rowsGone();
     /// The view goes.
     void shutDown();
 
@@ -74,10 +76,17 @@ private:
     void editValue(VarTreeCtrlNode& node, const RECT& cell);
     void openValueList(const OpenValueList& list, RECT cell);
     [[nodiscard]] SharedChoices valuesOf(ValueList list);
+    [[nodiscard]] SharedChoices stateValues();
     void openDocumentTypes(const RECT& cell);
     [[nodiscard]] HRESULT fetchDocumentTypes(ChoiceEntries& entries) const;
 
+    [[nodiscard]] std::optional<LONG> topOf(HTREEITEM item) const;
+    void rememberPlace(HTREEITEM item);
+
     QPointer<QTreeView> m_view;
+    /// The row that something was opened for last, and where it was then.
+    HTREEITEM m_openFor = nullptr;
+    std::optional<LONG> m_openAt;
     CellEditingNeeds m_needs;
     ListEditing m_lists;
     InPlaceEditing m_inPlace;

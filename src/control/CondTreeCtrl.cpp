@@ -405,7 +405,6 @@ void CondTreeCtrl::setColumns(const ColumnShares& columns)
     const QPointer<CondTreeCtrl> self(this);
     if (std::exchange(parts->columns, columns) == columns)
         return;
-    m_parts->cells.rowsMove();
     viewport()->update();
     parts->cells.rowsMove();
     if (!self.isNull())

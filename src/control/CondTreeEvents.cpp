@@ -33,15 +33,15 @@ void CondTreeCtrl::connectModel()
     CellEditing* cells = &m_parts->cells;
     connect(model, &ConditionModel::expandRequested, this, &QTreeView::expand);
     connect(model, &ConditionModel::textsChanged, viewport(), qOverload<>(&QWidget::update));
-    connect(model, &QAbstractItemModel::rowsAboutToBeRemoved, this,
-            [cells] { cells->rowsShift(); });
-    connect(model, &QAbstractItemModel::modelAboutToBeReset, this, [cells] { cells->rowsShift(); });
-    connect(model, &QAbstractItemModel::rowsRemoved, this, [cells] { cells->rowsGone(); });
-    connect(model, &QAbstractItemModel::modelReset, this, [cells] { cells->rowsGone(); });
-    // Rows below move, and what is open over them stands over others.
-    connect(model, &QAbstractItemModel::rowsInserted, this, [cells] { cells->rowsShift(); });
-    connect(this, &QTreeView::expanded, this, [cells] { cells->rowsShift(); });
-    connect(this, &QTreeView::collapsed, this, [cells] { cells->rowsShift(); });
+    const auto begin = [cells] { cells->rowsAboutToShift(); };
+    const auto end = [cells] { cells->rowsShift(); };
+    connect(model, &QAbstractItemModel::rowsAboutToBeRemoved, this, begin);
+    connect(model, &QAbstractItemModel::modelAboutToBeReset, this, begin);
+    connect(model, &QAbstractItemModel::rowsRemoved, this, end);
+    connect(model, &QAbstractItemModel::modelReset, this, end);
+    connect(model, &QAbstractItemModel::rowsInserted, this, end);
+    connect(this, &QTreeView::expanded, this, end);
+    connect(this, &QTreeView::collapsed, this, end);
 }
 
 void CondTreeCtrl::connectEditors()

@@ -23,6 +23,21 @@ QRect toRect(const RECT& cell)
     return {QPoint(cell.left, cell.top), QPoint(cell.right - 1, cell.bottom - 1)};
 }
 
+// What the picker asks while it is made is asked before: the host may take the view away then.
+Services knowingThePresent(Services services)
+{
+    const SYSTEMTIME now = services.localTime();
+    const DWORD doubleClickTime = services.doubleClickTime();
+    const int width = services.systemMetric(SM_CXDOUBLECLK);
+    const int height = services.systemMetric(SM_CYDOUBLECLK);
+    services.localTime = [now] { return now; };
+    services.doubleClickTime = [doubleClickTime] { return doubleClickTime; };
+    services.systemMetric = [width, height](int metric) {
+        return metric == SM_CXDOUBLECLK ? width : height;
+    };
+    return services;
+}
+
 } // namespace
 
 InPlaceEditing::InPlaceEditing(QTreeView& view, const Services& services,
@@ -42,8 +57,7 @@ void InPlaceEditing::setHook(std::function<void()> changed)
 void InPlaceEditing::shutDown()
 {
     finishMeanwhile();
-    if (!m_picker.isNull())
-        m_picker->close();
+    closePicker();
     m_view.clear();
 }
 
@@ -149,8 +163,11 @@ void InPlaceEditing::pick(VarTreeCtrlNode& node, const RECT& cell)
 {
     if (m_view.isNull() || !m_picker.isNull())
         return;
-    QWidget* viewport = m_view->viewport();
     const Edited edited = editedOf(node);
+    const Services services = knowingThePresent(m_services);
+    if (m_view.isNull() || nodeOf(edited) == nullptr)
+        return;
+    QWidget* viewport = m_view->viewport();
     m_picked = edited;
     CString before = node.mValue;
     const auto stored = [this, edited, &before, cell, viewport] {
@@ -163,16 +180,22 @@ void InPlaceEditing::pick(VarTreeCtrlNode& node, const RECT& cell)
     };
     m_picker = new PickDateDlg(
         viewport, [this, edited] { return nodeOf(edited); }, toScreen(*viewport, cell),
-        m_settings.dateStyle, m_services, stored);
+        m_settings.dateStyle, services, stored);
     const QPointer<PickDateDlg> picker = m_picker;
     picker->DoModal();
     delete picker;
 }
 
+void InPlaceEditing::closePicker()
+{
+    if (!m_picker.isNull())
+        m_picker->close();
+}
+
 void InPlaceEditing::forgetDeadRows()
 {
-    if (!m_picker.isNull() && nodeOf(m_picked) == nullptr)
-        m_picker->close();
+    if (nodeOf(m_picked) == nullptr)
+        closePicker();
 }
 
 } // namespace condtree

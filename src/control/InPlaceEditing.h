@@ -46,6 +46,10 @@ public:
     void finishMeanwhile();
     /// Finishes the in-place editor, and tells of all that was changed before it returns.
     void settle();
+    [[nodiscard]] bool isEditing() const { return !m_editor.isNull(); }
+    [[nodiscard]] bool isPicking() const { return !m_picker.isNull(); }
+    /// Closes the picker, if it is open.
+    void closePicker();
     /// Closes the picker when its row is gone.
     void forgetDeadRows();
 

@@ -237,10 +237,15 @@ void ListEditing::close()
         combo->closeList();
 }
 
-void ListEditing::dismiss()
+bool ListEditing::isOpen() const
 {
     const CommandCombo* combo = m_session.combo();
-    if (combo != nullptr && combo->isDroppedDown())
+    return combo != nullptr && combo->isDroppedDown();
+}
+
+void ListEditing::dismiss()
+{
+    if (isOpen())
         clear();
 }
 

@@ -57,6 +57,8 @@ public:
     /// Applies what is selected in the list to the clicked row, and hides the list unless the
     /// choice could not be applied. Whether that changed anything.
     [[nodiscard]] bool closeUp();
+    /// Whether a list is dropped down.
+    [[nodiscard]] bool isOpen() const;
     /// Applies what was chosen from a list that has closed, if that is still to come.
     void settle();
     /// Closes the list, if it is open, as clicking elsewhere does.

@@ -8,8 +8,7 @@ class QWidget;
 namespace condtree {
 
 /// Shows text in a box with an OK button and, for MB_ICONERROR, the icon of an error, modal to
-/// owner's window (to the whole application without
-/// an owner), and waits until it is closed.
+/// owner's window (to the whole application without an owner), and waits until it is closed.
 ///
 /// While such a box is open over a window, a further text for that window joins it, unless it is
 /// there already, and the call returns at once; one of an error gives the box its icon. The box

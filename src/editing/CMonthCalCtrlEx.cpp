@@ -107,8 +107,12 @@ bool CMonthCalCtrlEx::Presses::onPress(const QWidget& watched, const QMouseEvent
     const bool isOnTarget =
         &watched == m_calendar.m_todayLink || (&watched == grid && isDay(inPart));
     m_calendar.m_isTold = false;
+    const QPointer<Presses> self(this);
+    const DWORD now = m_tickCount();
+    if (self.isNull()) // the clock is the host's
+        return true;
     // What a part does not take comes to those around it, too, and is the same press once more.
-    if (m_doubleClick.press({point.x(), point.y()}, isOnTarget, m_tickCount())) {
+    if (m_doubleClick.press({point.x(), point.y()}, isOnTarget, now)) {
         // The first press may have turned the page: what is there now is not what was meant.
         Q_EMIT m_calendar.finished();
         return true;

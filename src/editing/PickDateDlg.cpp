@@ -124,7 +124,7 @@ void PickDateDlg::closeSoon()
 
 void PickDateDlg::DoModal()
 {
-    if (isVisible())
+    if (isVisible() || m_node() == nullptr)
         return;
     selectValue();
     place();

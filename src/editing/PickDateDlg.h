@@ -37,7 +37,8 @@ public:
     ~PickDateDlg() override;
 
     /// Shows the picker on the date that the node's value is, else on today, and waits until it is
-    /// closed: by the user, by close(), or by its end. Does nothing while it is open.
+    /// closed: by the user, by close(), or by its end. Does nothing while it is open, and without a
+    /// node.
     void DoModal();
 
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -36,9 +36,9 @@ inline constexpr unsigned MB_ICONERROR = 0x10;
 /// A port that is left empty is the real one.
 struct Services {
     /// Shows a plain text, modal to owner's window (to the application where owner is null), and
-    /// waits until it is closed; type is MB_OK or MB_ICONERROR. While a message is open over a window, the real one
-    /// adds further texts for that window to it, each once, and returns at once. Owner and its
-    /// window may die meanwhile.
+    /// waits until it is closed; type is MB_OK or MB_ICONERROR. While a message is open over a
+    /// window, the real one adds further texts for that window to it, each once, and returns at
+    /// once. Owner and its window may die meanwhile.
     std::function<int(QWidget* owner, const CString& text, unsigned type)> messageBox;
     StringSource string;
     std::function<SYSTEMTIME()> localTime;
@@ -51,8 +51,8 @@ struct Services {
     std::function<DWORD()> doubleClickTime;
     /// The screen's colour depth; 0 when it is not known.
     std::function<int()> bitsPerPixel;
-    /// Sends receiver a TimerMessage with this id, once, when the time has passed; starts anew where
-    /// one of the same id is running for it. The receiver may die meanwhile.
+    /// Sends receiver a TimerMessage with this id, once, when the time has passed; starts anew
+    /// where one of the same id is running for it. The receiver may die meanwhile.
     std::function<void(QObject* receiver, std::uintptr_t id, unsigned ms)> startTimer;
     /// Stops a timer, if it is running.
     std::function<void(QObject* receiver, std::uintptr_t id)> stopTimer;

@@ -221,8 +221,6 @@ TEST_F(PickerClosing, TheOwnerMayCloseIt)
 
 TEST_F(PickerClosing, TheEndOfTheApplicationClosesIt)
 {
-    const ExpectWarning raise(QStringLiteral("does not support raise()"));
-    const ExpectWarning grab(QStringLiteral("does not support grabbing the keyboard"));
     bool hasReturned = false;
     makePicker();
     QTimer::singleShot(0, [&] {

@@ -40,16 +40,16 @@ TEST_F(PickerLifetime, ARowThatIsGoneClosesAtTheNextChoice)
     }
 }
 
-TEST_F(PickerLifetime, ARowThatWasGoneBeforeOpensOnToday)
+TEST_F(PickerLifetime, NothingOpensForARowThatWasGoneBefore)
 {
-    const ExpectWarning raise(QStringLiteral("does not support raise()"));
-    const ExpectWarning grab(QStringLiteral("does not support grabbing the keyboard"));
     picker = new PickDateDlg(
         tree, [] { return nullptr; }, cell, style, ports.services(), [] { FAIL(); });
-    QTimer::singleShot(0, [&] {
-        EXPECT_EQ(calendar().selectedDate(), QDate(2024, 3, 5));
-        hand().click(hand().day(20));
+    QTimer watch;
+    watch.callOnTimeout([&] {
+        ADD_FAILURE() << "it waits";
+        picker->close();
     });
+    watch.start(0);
     picker->DoModal();
     EXPECT_FALSE(picker->isVisible());
     delete picker;
@@ -136,8 +136,6 @@ TEST_F(PickerLifetime, APickerThatWasNeverOpenedCanBeDeletedAndOutliveItsTree)
 
 TEST_F(PickerLifetime, ATreeIsNotNeeded)
 {
-    const ExpectWarning raise(QStringLiteral("does not support raise()"));
-    const ExpectWarning grab(QStringLiteral("does not support grabbing the keyboard"));
     tree = nullptr;
     makePicker();
     QTimer::singleShot(0, [&] {

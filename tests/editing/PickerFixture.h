@@ -57,8 +57,6 @@ protected:
     void open(const QString& value, const std::function<void()>& script)
     {
         node->mValue = value;
-        const ExpectWarning raise(QStringLiteral("does not support raise()"));
-        const ExpectWarning grab(QStringLiteral("does not support grabbing the keyboard"));
         makePicker();
         bool hasRun = false;
         QTimer::singleShot(0, [&] {
