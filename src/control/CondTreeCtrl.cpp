@@ -40,6 +40,7 @@ void setUpView(QTreeView& view)
     view.setUniformRowHeights(true);
     view.setEditTriggers(QAbstractItemView::NoEditTriggers);
     view.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    view.setMouseTracking(true); // movements without a button are movements too
     // Not every style asks for it, and without it no row is painted anew when the pointer moves.
     view.viewport()->setAttribute(Qt::WA_Hover);
 }
@@ -75,6 +76,7 @@ CondTreeCtrl::CondTreeCtrl(QWidget* parent, Services services)
 // that it was overtaken.
 CondTreeCtrl::~CondTreeCtrl()
 {
+    m_parts->dragging.shutDown();
     m_parts->cells.shutDown();
     m_parts->model.remove(TVI_ROOT);
 }

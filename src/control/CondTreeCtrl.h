@@ -171,6 +171,23 @@ protected:
     /// no row must outlive the editor.
     void mvOnClickValue(VarTreeCtrlNode& node, int column, RECT cell);
 
+    /// The left button goes down at a point of the viewport: ends the in-place editor, and allows a
+    /// drag after a while where the point lies in the first column. flags are MK_.
+    virtual void OnLButtonDown(unsigned flags, POINT point);
+    /// The pointer moves over the viewport: begins a drag, or goes on with it.
+    virtual void OnMouseMove(unsigned flags, POINT point);
+    /// The left button goes up: drops a dragged row, and tells the parent's parent with a
+    /// ButtonReleasedMessage.
+    virtual void OnLButtonUp(unsigned flags, POINT point);
+    /// A timer has run out that Services::startTimer started for the control.
+    virtual void OnTimer(std::uintptr_t id);
+    /// Begins to drag the row at a point of the viewport, if it is a condition.
+    void mvBegindrag(POINT point);
+    /// Moves a row without children to the end of newParent's, a group's or TVI_ROOT's; after is
+    /// not looked at. The row is made anew, with argument type and object type 0. The new row; null
+    /// when it was not moved.
+    HTREEITEM mhMoveItem(HTREEITEM item, HTREEITEM newParent, HTREEITEM after);
+
     /// The control's own drawing, by stages; header is an NMTVCUSTOMDRAW's. result may not be null.
     /// A subclass may draw otherwise: rows are told as the answers ask.
     virtual void OnNMCustomdraw(NMHDR* header, LRESULT* result);
@@ -187,6 +204,7 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     /// A character that is typed on a row with a date begins to replace the date.
     void keyPressEvent(QKeyEvent* event) override;
+    void customEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
 

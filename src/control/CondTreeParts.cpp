@@ -61,6 +61,7 @@ CondTreeParts::CondTreeParts(QTreeView& view, Services ports)
     , tree(model)
     , cells({view, services, manager, settings, reference, images, columns, model, tree,
              [this](HRESULT code, unsigned type) { report(code, type); }})
+    , dragging({view, services, model, columns, tree, drawing, cells})
 {
 }
 

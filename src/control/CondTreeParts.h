@@ -6,6 +6,7 @@
 #include <condtree/control/ConditionSaver.h>
 #include <condtree/control/DesktopPalette.h>
 #include <condtree/control/ModelTree.h>
+#include <condtree/control/RowDragging.h>
 #include <condtree/control/RowDrawing.h>
 #include <condtree/editing/ClickTracker.h>
 #include <condtree/platform/Services.h>
@@ -19,6 +20,8 @@
 #include <QWidget>
 
 #include <optional>
+
+class QMouseEvent;
 
 namespace condtree {
 
@@ -43,7 +46,10 @@ struct CondTreeParts {
     DesktopPalette palette;
     ModelTree tree;
     CellEditing cells;
+    RowDragging dragging;
     ClickTracker clicks;
+    /// The mouse event that is being handled and that the view has not seen yet; null for none.
+    QMouseEvent* mouse = nullptr;
     /// Where on the screen the click is that is being handled; none between clicks.
     std::optional<POINT> clickedAt;
 

@@ -247,6 +247,28 @@ void ConditionModel::removeChildren(VarTreeCtrlNode& parent,
     children.erase(firstPicked, children.end());
 }
 
+void ConditionModel::moveLast(VarTreeCtrlNode& level,
+                              const std::function<bool(const VarTreeCtrlNode&)>& picked)
+{
+    const auto stays = [&](const VarTreeCtrlNode* child) { return !picked(*child); };
+    std::vector<VarTreeCtrlNode*>& children = level.mChildren;
+    if (std::is_partitioned(children.begin(), children.end(), stays))
+        return;
+    const bool isTold = isShown(level);
+    const QList<QPersistentModelIndex> changed{QPersistentModelIndex(indexOfNode(level))};
+    if (isTold)
+        Q_EMIT layoutAboutToBeChanged(changed, VerticalSortHint);
+    std::stable_partition(children.begin(), children.end(), stays);
+    ++m_revision;
+    int place = 0;
+    for (const VarTreeCtrlNode* child : children)
+        m_items.setPlace(child->mhItem, place++);
+    for (const QModelIndex& index : persistentIndexList())
+        changePersistentIndex(index, indexOf(itemOf(index)));
+    if (isTold)
+        Q_EMIT layoutChanged(changed, VerticalSortHint);
+}
+
 void ConditionModel::clearChildren(VarTreeCtrlNode& parent)
 {
     if (parent.mChildren.empty())

@@ -75,6 +75,11 @@ public:
     void removeChildren(VarTreeCtrlNode& parent,
                         const std::function<bool(const VarTreeCtrlNode&)>& picked);
 
+    /// Puts the children of level that a test picks behind the others, each kind in the order in
+    /// which it was. Nothing is told when that changes nothing.
+    void moveLast(VarTreeCtrlNode& level,
+                  const std::function<bool(const VarTreeCtrlNode&)>& picked);
+
     /// Deletes all children of parent with their subtrees, first to last. Other rows are not
     /// touched.
     void clearChildren(VarTreeCtrlNode& parent);

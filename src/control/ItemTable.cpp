@@ -78,6 +78,12 @@ void ItemTable::setImage(HTREEITEM item, int image)
         m_slots[static_cast<std::size_t>(slot - m_slots.data())].image = image;
 }
 
+void ItemTable::setPlace(HTREEITEM item, int place)
+{
+    if (const Slot* slot = find(item))
+        m_slots[static_cast<std::size_t>(slot - m_slots.data())].place = place;
+}
+
 int ItemTable::place(HTREEITEM item, const std::vector<VarTreeCtrlNode*>& siblings)
 {
     const Slot* found = find(item);

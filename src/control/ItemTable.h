@@ -24,6 +24,8 @@ public:
     [[nodiscard]] int image(HTREEITEM item) const;
     /// Changes the index of the row's picture; a handle that names no row does nothing.
     void setImage(HTREEITEM item, int image);
+    /// Remembers the row's place; a handle that names no row does nothing.
+    void setPlace(HTREEITEM item, int place);
     /// The row's place among siblings, which must hold its node. Remembers it: the next question
     /// costs as many steps as the row has moved since.
     int place(HTREEITEM item, const std::vector<VarTreeCtrlNode*>& siblings);

@@ -39,6 +39,17 @@ void ModelTree::removeChildren(VarTreeCtrlNode& node)
     m_model.clearChildren(node);
 }
 
+void ModelTree::setTop(std::unique_ptr<VarTreeCtrlNode> node)
+{
+    m_model.setTop(std::move(node));
+}
+
+void ModelTree::moveLast(VarTreeCtrlNode& level,
+                         const std::function<bool(const VarTreeCtrlNode&)>& picked)
+{
+    m_model.moveLast(level, picked);
+}
+
 void ModelTree::expand(HTREEITEM item)
 {
     m_model.expand(item);

@@ -18,6 +18,9 @@ public:
                   bool first) override;
     void remove(HTREEITEM item) override;
     void removeChildren(VarTreeCtrlNode& node) override;
+    void setTop(std::unique_ptr<VarTreeCtrlNode> node) override;
+    void moveLast(VarTreeCtrlNode& level,
+                  const std::function<bool(const VarTreeCtrlNode&)>& picked) override;
     void expand(HTREEITEM item) override;
     void setImage(HTREEITEM item, int image) override;
     void invalidate() override;

@@ -100,7 +100,8 @@ void RowDrawing::mark(const NMTVCUSTOMDRAW& draw, const QTreeView& view) const
     if (!index.isValid()) // a subclass's handler may have deleted the row
         return;
     const RowMarks marks{view.selectionModel()->isSelected(index), index == m_hovered,
-                         view.hasFocus() && index == view.currentIndex()};
+                         view.hasFocus() && index == view.currentIndex(),
+                         draw.dwItemSpec == m_dropHighlight};
     const RECT row{0, draw.rc.top, view.viewport()->width(), draw.rc.bottom};
     const QPalette& palette = view.palette();
     const COLORREF colour = markColour(palette, palette.currentColorGroup());

@@ -47,6 +47,10 @@ public:
     /// Tells of a row's last stage, if isTold, and marks it as selected, hovered or focused.
     void endRow(NMTVCUSTOMDRAW& draw, const Stage& stage, bool isTold, const QTreeView& view) const;
 
+    /// Marks a row as the one under a drag; null is none. The view is drawn anew by who calls.
+    void setDropHighlight(HTREEITEM item) { m_dropHighlight = item; }
+    [[nodiscard]] HTREEITEM dropHighlight() const { return m_dropHighlight; }
+
 private:
     void mark(const NMTVCUSTOMDRAW& draw, const QTreeView& view) const;
     void paint(QPainter& painter, const VarTreeCtrlNode& node, const RowPlace& place) const;
@@ -60,6 +64,7 @@ private:
     bool m_tellsRows = false;
     /// The row under the pointer during a repaint.
     QPersistentModelIndex m_hovered;
+    HTREEITEM m_dropHighlight = nullptr;
 };
 
 /// Gives rows their height: that of the resolution, or of the font where that is larger.

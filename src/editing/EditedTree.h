@@ -4,6 +4,7 @@
 #include <condtree/platform/TreeVocabulary.h>
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 
 namespace condtree {
@@ -33,6 +34,12 @@ public:
     virtual void remove(HTREEITEM item) = 0;
     /// Deletes everything below a node, first to last.
     virtual void removeChildren(VarTreeCtrlNode& node) = 0;
+    /// Makes a node the top; the one before it, if any, is deleted with everything below it.
+    virtual void setTop(std::unique_ptr<VarTreeCtrlNode> node) = 0;
+    /// Puts the rows of a level that a test picks behind its others, each kind in the order in
+    /// which it was. The rows stay the same.
+    virtual void moveLast(VarTreeCtrlNode& level,
+                          const std::function<bool(const VarTreeCtrlNode&)>& picked) = 0;
     /// Opens a row.
     virtual void expand(HTREEITEM item) = 0;
     /// Gives a row another picture, by its index in the row image list.

@@ -32,6 +32,15 @@ enum : unsigned {
     TVHT_TOLEFT = 0x800
 };
 
+/// What is held down while the mouse is used.
+enum : unsigned {
+    MK_LBUTTON = 0x1,
+    MK_RBUTTON = 0x2,
+    MK_SHIFT = 0x4,
+    MK_CONTROL = 0x8,
+    MK_MBUTTON = 0x10
+};
+
 /// The stages of drawing.
 enum : DWORD {
     CDDS_PREPAINT = 0x1,

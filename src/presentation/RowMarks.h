@@ -15,11 +15,14 @@ struct RowMarks {
     bool isHovered = false;
     /// The keyboard acts on it.
     bool isFocused = false;
+    /// It lies under a row that is dragged.
+    bool isUnderDrag = false;
 };
 
 /// Describes what is laid over a finished row, from the viewport's left edge to its right one: a
 /// tint and a bar in front where it is selected, a paler tint under the pointer, a frame where the
-/// focus is. Texts and pictures are below the tint, and stay readable.
+/// focus is, a tint and a thick frame under a drag. Texts and pictures are below the tint, and stay
+/// readable.
 [[nodiscard]] RowPicture describeMarks(const RECT& row, const RowMarks& marks, COLORREF colour);
 
 } // namespace condtree

@@ -7,7 +7,10 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractItemModelTester>
+#include <QPersistentModelIndex>
 #include <QSignalSpy>
+
+#include <vector>
 
 namespace condtree {
 namespace {
@@ -42,6 +45,37 @@ protected:
     HTREEITEM group = nullptr;
     HTREEITEM last = nullptr;
 };
+
+TEST_F(ModelTreeTest, RowsGoBehindTheOthersAndStayTheSame)
+{
+    QSignalSpy changed(&model, &QAbstractItemModel::layoutChanged);
+    QSignalSpy reset(&model, &QAbstractItemModel::modelReset);
+    VarTreeCtrlNode& level = *tree.node(group);
+    const std::vector<VarTreeCtrlNode*> before = level.mChildren;
+    const QPersistentModelIndex first = model.indexOf(before[0]->mhItem);
+    const QPersistentModelIndex second = model.indexOf(before[1]->mhItem);
+    const auto revision = tree.revision();
+    const auto isPath = [](const VarTreeCtrlNode& node) { return node.mlCode == FilePath; };
+    tree.moveLast(level, isPath);
+    EXPECT_EQ(level.mChildren, (std::vector<VarTreeCtrlNode*>{before[1], before[2], before[0]}));
+    EXPECT_EQ(first.row(), 2);
+    EXPECT_EQ(second.row(), 0);
+    EXPECT_EQ(model.itemOf(first), before[0]->mhItem);
+    EXPECT_EQ(model.indexOf(before[2]->mhItem).row(), 1);
+    EXPECT_EQ(changed.count(), 1);
+    EXPECT_EQ(reset.count(), 0) << "open groups would close";
+    EXPECT_NE(tree.revision(), revision);
+    tree.moveLast(level, isPath);
+    EXPECT_EQ(changed.count(), 1) << "they are there already";
+}
+
+TEST_F(ModelTreeTest, ANewTopTakesThePlaceOfEverything)
+{
+    tree.setTop(makeNode(NodeAnd));
+    EXPECT_EQ(tree.node(group), nullptr);
+    EXPECT_EQ(model.rowCount(), 0);
+    EXPECT_EQ(model.top()->mhItem, TVI_ROOT);
+}
 
 TEST_F(ModelTreeTest, RemovingChildrenLeavesOtherRowsAlone)
 {

@@ -35,6 +35,15 @@ TEST(RowMarks, EachMarkHasItsPrimitives)
          "\ntint (5,40)-(405,62) D77800 48"
          "\nfill (5,40)-(8,62) D77800"
          "\nframe (5,40)-(405,62) D77800"},
+        {{false, false, false, true},
+         "\ntint (5,40)-(405,62) D77800 48"
+         "\nframe (5,40)-(405,62) D77800"
+         "\nframe (6,41)-(404,61) D77800"},
+        {{true, true, true, true},
+         "\ntint (5,40)-(405,62) D77800 48"
+         "\nfill (5,40)-(8,62) D77800"
+         "\nframe (5,40)-(405,62) D77800"
+         "\nframe (6,41)-(404,61) D77800"},
     };
     for (const Row& row : rows)
         EXPECT_EQ(toText(describeMarks({5, 40, 405, 62}, row.marks, 0x00D77800)), row.picture);
