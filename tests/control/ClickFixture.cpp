@@ -21,6 +21,7 @@ ClickFixture::~ClickFixture()
 {
     duringChange = nullptr;
     duringText = nullptr;
+    duringClock = nullptr;
     control.reset();
 }
 

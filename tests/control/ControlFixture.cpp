@@ -70,7 +70,11 @@ Services ControlFixture::services()
                : metric == SM_CYSMICON ? iconSize.height()
                                        : realSystemMetric(metric);
     };
-    ports.localTime = [this] { return now ? *now : realServices().localTime(); };
+    ports.localTime = [this] {
+        if (duringClock)
+            duringClock();
+        return now ? *now : realServices().localTime();
+    };
     ports.cursorPos = [this] { return pointer; };
     ports.bitsPerPixel = [this] { return bitsPerPixel; };
     registry = std::make_shared<RegFileStore>(

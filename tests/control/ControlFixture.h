@@ -58,6 +58,7 @@ public:
     bool appliesCloseUps = true; ///< whether the control then does what it does
     int clicks = 0;              ///< how often a click was told
     LRESULT clickResult = -1;    ///< what the last click came to
+    bool looksAtClicks = true;   ///< whether the control then does what it does
 
     void OnComboCloseup() override
     {
@@ -68,6 +69,8 @@ public:
     void OnNMClick(NMHDR* header, LRESULT* result) override
     {
         ++clicks;
+        if (!looksAtClicks)
+            return;
         const QPointer<OpenCtrl> self(this);
         CondTreeCtrl::OnNMClick(header, result);
         if (!self.isNull())
@@ -136,6 +139,7 @@ protected:
     std::vector<unsigned> messageTypes;
     std::function<void()> duringMessage;  ///< what the host does while a message is open
     std::function<void(LONG)> duringText; ///< what it does when a text is asked for, by its id
+    std::function<void()> duringClock;    ///< what it does when the clock is read
     std::map<LONG, QString> translations; ///< by text id; the default where there is none
     std::optional<SYSTEMTIME> now;        ///< what the clock says; the real time when empty
     int bitsPerPixel = 32;

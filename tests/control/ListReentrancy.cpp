@@ -59,6 +59,7 @@ protected:
         duringMessage = nullptr;
         duringChange = nullptr;
         duringText = nullptr;
+        duringClock = nullptr;
         control = std::make_unique<OpenCtrl>(nullptr, services());
         viewport = control->viewport();
         window.layout()->addWidget(control.get());
@@ -97,6 +98,7 @@ protected:
             duringMessage = nullptr;
             duringChange = nullptr;
             duringText = nullptr;
+            duringClock = nullptr;
             control->mvClearCombo();
             initialize();
             click(placeholder(), 0);
@@ -226,6 +228,87 @@ TEST_F(ListReentrancy, WhileAChoiceFailsToLoadItsList)
         choose("User");
         EXPECT_EQ(messages.size(), 1U);
     });
+}
+
+TEST_F(ListReentrancy, WhileAListOfValuesIsLoaded)
+{
+    struct Case {
+        RowBefore row;
+        FakeLibrary::Operation FakeLibrary::*operation;
+    };
+    for (const Case& c : {Case{kUser, &FakeLibrary::getUsers},
+                          Case{{Group, "G", "", "", 100}, &FakeLibrary::getGroups},
+                          Case{{ChildRefState, "S", "", "", 100}, &FakeLibrary::getStates},
+                          Case{{Category, "C", "", "", 100}, &FakeLibrary::getDocTypes}}) {
+        SCOPED_TRACE(c.row.code);
+        onEach([this, &c](const auto& once) {
+            const VarTreeCtrlNode& row = begin(c.row);
+            FakeLibrary::Operation& operation = (*library).*c.operation;
+            operation.during = once;
+            click(row, 2);
+            operation.during = nullptr;
+            EXPECT_TRUE(messages.empty());
+        });
+    }
+}
+
+TEST_F(ListReentrancy, WhileAChoiceLoadsItsList)
+{
+    struct Case {
+        const char* chosen;
+        TreeType treeType;
+        FakeLibrary::Operation FakeLibrary::*operation;
+    };
+    for (const Case& c : {Case{"User", TreeTypeUsersAndGroups, &FakeLibrary::getUsers},
+                          Case{"Group", TreeTypeUsersAndGroups, &FakeLibrary::getGroups},
+                          Case{"Child Reference State", TreeType{0}, &FakeLibrary::getStates}}) {
+        SCOPED_TRACE(c.chosen);
+        onEach([this, &c](const auto& once) {
+            const VarTreeCtrlNode& row = begin({FilePath, "P", "", "", 101}, c.treeType);
+            click(row, 0);
+            FakeLibrary::Operation& operation = (*library).*c.operation;
+            operation.during = once;
+            choose(c.chosen);
+            operation.during = nullptr;
+            EXPECT_TRUE(messages.empty());
+        });
+    }
+}
+
+TEST_F(ListReentrancy, WhileAChoiceReadsTheClock)
+{
+    for (const auto& [column, chosen] : {std::pair{0, "Due"}, std::pair{1, "Date Equal To"}}) {
+        SCOPED_TRACE(chosen);
+        onEach([this, column, chosen](const auto& once) {
+            const VarTreeCtrlNode& row = begin({NodeVariable, "Author", "", "", 120, 1});
+            click(row, column);
+            duringClock = once;
+            choose(chosen);
+        });
+    }
+}
+
+TEST_F(ListReentrancy, NoMessageOverAControlThatGoesWhileItsTextIsFetched)
+{
+    struct Case {
+        RowBefore row;
+        int column;
+        FakeLibrary::Operation FakeLibrary::*operation;
+    };
+    for (const Case& c :
+         {Case{kText, 0, &FakeLibrary::getVariables}, Case{kUser, 2, &FakeLibrary::getUsers},
+          Case{{Category, "C", "", "", 100}, 2, &FakeLibrary::getDocTypes}}) {
+        SCOPED_TRACE(c.row.code);
+        const VarTreeCtrlNode& row = begin(c.row);
+        FakeLibrary::Operation& operation = (*library).*c.operation;
+        operation.results = {E_FAIL};
+        operation.during = [this] { duringText = [this](LONG) { control.reset(); }; };
+        click(row, c.column);
+        operation.during = nullptr;
+        EXPECT_EQ(control, nullptr);
+        EXPECT_TRUE(messages.empty());
+        expectSound();
+    }
 }
 
 TEST_F(ListReentrancy, WhileAChoiceFetchesItsText)
