@@ -133,6 +133,7 @@ ValueEditorChoice CellEditing::valueEditorOf(const VarTreeCtrlNode& node) const
 void CellEditing::clickValue(VarTreeCtrlNode& node, const RECT& cell)
 {
     const NodeWatch watch(m_needs.tree, node);
+    m_lists.settle(); // for the row that was clicked before
     m_inPlace.finish();
     if (m_view.isNull() || !watch.isThere())
         return;
