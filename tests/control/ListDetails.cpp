@@ -60,36 +60,37 @@ protected:
     }
 };
 
+struct KeyCase {
+    const char* name;
+    int key;
+    Qt::KeyboardModifiers modifiers;
+    const char* text;
+    bool isTheLists;
+};
+const KeyCase kKeys[] = {
+    {"Return", Qt::Key_Return, {}, "\r", false},
+    {"Enter", Qt::Key_Enter, Qt::KeypadModifier, "\r", false},
+    {"Escape", Qt::Key_Escape, {}, "\x1b", false},
+    {"Tab", Qt::Key_Tab, {}, "\t", false},
+    {"back Tab", Qt::Key_Backtab, Qt::ShiftModifier, "\t", false},
+    {"Ctrl+C", Qt::Key_C, Qt::ControlModifier, "\x03", false},
+    {"Ctrl+C with its letter", Qt::Key_C, Qt::ControlModifier, "c", false},
+    {"Alt+F", Qt::Key_F, Qt::AltModifier, "f", false},
+    {"Down", Qt::Key_Down, {}, "", false},
+    {"a letter", Qt::Key_R, {}, "r", true},
+    {"a capital", Qt::Key_R, Qt::ShiftModifier, "R", true},
+    {"a letter of another script", 0, {}, "\xd0\xb6", true},
+    {"Backspace", Qt::Key_Backspace, {}, "\b", true},
+};
+
 TEST_F(ListDetails, CommandsThatAnotherWidgetGetsAreItsOwnAndWhatIsTypedIsTheLists)
 {
-    struct Case {
-        const char* name;
-        int key;
-        Qt::KeyboardModifiers modifiers;
-        const char* text;
-        bool isTheLists;
-    };
-    const Case cases[] = {
-        {"Return", Qt::Key_Return, {}, "\r", false},
-        {"Enter", Qt::Key_Enter, Qt::KeypadModifier, "\r", false},
-        {"Escape", Qt::Key_Escape, {}, "\x1b", false},
-        {"Tab", Qt::Key_Tab, {}, "\t", false},
-        {"back Tab", Qt::Key_Backtab, Qt::ShiftModifier, "\t", false},
-        {"Ctrl+C", Qt::Key_C, Qt::ControlModifier, "\x03", false},
-        {"Ctrl+C with its letter", Qt::Key_C, Qt::ControlModifier, "c", false},
-        {"Alt+F", Qt::Key_F, Qt::AltModifier, "f", false},
-        {"Down", Qt::Key_Down, {}, "", false},
-        {"a letter", Qt::Key_R, {}, "r", true},
-        {"a capital", Qt::Key_R, Qt::ShiftModifier, "R", true},
-        {"a letter of another script", 0, {}, "\xd0\xb6", true},
-        {"Backspace", Qt::Key_Backspace, {}, "\b", true},
-    };
     start();
     const VarTreeCtrlNode& row = only({FilePath, "FilePath", "", "", 106});
     click(row, 0);
     ASSERT_TRUE(isOpen());
     Receiver receiver(*hostField);
-    for (const Case& c : cases) {
+    for (const KeyCase& c : kKeys) {
         SCOPED_TRACE(c.name);
         receiver.inputs = 0;
         QKeyEvent event(QEvent::KeyPress, c.key, c.modifiers, QString::fromUtf8(c.text));
