@@ -12,6 +12,8 @@ using namespace condtree::workbench;
 
 namespace {
 
+const char* const kSecond = "Document Approval/Approve";
+
 /// Text that is still being typed into a cell when the user does something else with the window.
 class WindowEditing : public WindowTest {
 protected:
@@ -118,11 +120,10 @@ TEST_F(WindowEditing, SavingAnEditorWithTheSameTextHasNothingToSave)
 
 TEST_F(WindowEditing, AnotherTransitionIsOpenedOnlyWhenItIsDecidedWhatBecomesOfIt)
 {
-    const char* const second = "Document Approval/Approve";
     {
         const Answers answers({press(QMessageBox::Cancel, "")});
         type("typed");
-        click(second);
+        click(kSecond);
         QCoreApplication::processEvents();
         EXPECT_EQ(shownTransition(), QString::fromUtf8(kFirst));
         EXPECT_EQ(firstValue(), QStringLiteral("typed"));
@@ -130,9 +131,9 @@ TEST_F(WindowEditing, AnotherTransitionIsOpenedOnlyWhenItIsDecidedWhatBecomesOfI
     }
     const Answers answers({press(QMessageBox::Save, "")});
     m_window->activateWindow();
-    click(second);
+    click(kSecond);
     QCoreApplication::processEvents();
-    EXPECT_EQ(shownTransition(), QString::fromUtf8(second));
+    EXPECT_EQ(shownTransition(), QString::fromUtf8(kSecond));
     EXPECT_EQ(storedValue(kFirst), QStringLiteral("typed"));
 }
 
@@ -213,13 +214,93 @@ TEST_F(WindowEditing, WhatADatabaseCannotHoldIsRefusedWithTheRowAndKept)
     EXPECT_EQ(storedValue(kFirst), QStringLiteral("plain"));
 }
 
-TEST_F(WindowEditing, OtherOddTextsAreStoredAsTheyWereTyped)
+TEST_F(WindowEditing, OtherOddTextsAreStoredAsTheyWereTypedAndOpenedAgain)
 {
     const QString odd = QStringLiteral("a\x01\x7f\tb\nc\r\nd\u2028\u05e9\u05dc\u202e \U0001F600");
+    for (const int column : {2, 3}) {
+        const Answers answers({});
+        paste(column, odd);
+        shortcut(Qt::Key_S);
+        expectUnsaved(false);
+        const auto stored = m_sample.open()->load(find(kFirst)).value().records.front();
+        EXPECT_EQ(column == 2 ? stored.value.str() : stored.extra.str(), odd);
+        click(kSecond);
+        ASSERT_EQ(shownTransition(), QString::fromUtf8(kSecond));
+        click(kFirst);
+        const VarTreeCtrlNode& row = *editor().control().mpoGetNode(TVI_ROOT)->mChildren.front();
+        EXPECT_EQ(column == 2 ? row.mValue : row.mExtra, odd);
+        openEditor(column);
+        EXPECT_EQ(field()->text(), odd);
+        shortcut(Qt::Key_Return, Qt::NoModifier);
+        expectUnsaved(false);
+    }
+}
+
+TEST_F(WindowEditing, GivingUpTheChangesWhenLeavingGivesUpWhatIsTyped)
+{
+    {
+        const Answers answers({press(QMessageBox::Discard, kFirst)});
+        type("typed");
+        click(kSecond);
+        EXPECT_EQ(shownTransition(), QString::fromUtf8(kSecond));
+        expectUnsaved(false);
+    }
+    EXPECT_EQ(storedValue(kFirst), m_before);
     const Answers answers({});
-    paste(2, odd);
+    click(kFirst);
+    EXPECT_EQ(firstValue(), m_before);
+    expectUnsaved(false);
+}
+
+TEST_F(WindowEditing, ClosingTheWindowCanGiveUpWhatIsTyped)
+{
+    const Answers answers({press(QMessageBox::Discard, kFirst)});
+    type("typed");
+    EXPECT_TRUE(m_window->close());
+    EXPECT_EQ(storedValue(kFirst), m_before);
+}
+
+TEST_F(WindowEditing, ImportingAsksAndReplacesWhatIsTyped)
+{
+    {
+        const Answers answers({choose(importFile()), press(QMessageBox::Cancel, "not saved")});
+        type("typed");
+        shortcut(Qt::Key_I);
+        EXPECT_EQ(firstValue(), QStringLiteral("typed"));
+        expectUnsaved(true);
+    }
+    m_before = firstValue();
+    m_window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(m_window.get()));
+    const Answers answers({choose(importFile()), press(QMessageBox::Discard, "not saved")});
+    type("again");
+    shortcut(Qt::Key_I);
+    EXPECT_EQ(firstValue(), QStringLiteral("imported"));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(firstValue(), QStringLiteral("imported"));
+    EXPECT_EQ(field(), nullptr);
+    expectUnsaved(true);
+}
+
+TEST_F(WindowEditing, ATypedDateIsStoredAtTheKey)
+{
+    ConditionControl& control = editor().control();
+    VarTreeCtrlNode& row = *control.mpoGetNode(TVI_ROOT)->mChildren.front();
+    row.mlArgType = ArgDate;
+    row.mlOperator = DateEqualTo;
+    const Answers answers({});
+    control.setFocus();
+    control.setCurrentIndex(control.model()->index(0, 0));
+    for (const char letter : QByteArray("2025-01-31"))
+        QTest::keyClick(m_window->windowHandle(), letter);
+    ASSERT_NE(field(), nullptr);
+    EXPECT_EQ(field()->text(), QStringLiteral("2025-01-31"));
     shortcut(Qt::Key_S);
-    EXPECT_EQ(storedValue(kFirst), odd);
+    EXPECT_EQ(m_window->statusBar()->currentMessage(), QStringLiteral("Saved."));
+    const auto stored = m_sample.open()->load(find(kFirst)).value().records.front();
+    EXPECT_EQ(stored.value.str(), QStringLiteral("2025-01-31"));
+    EXPECT_EQ(stored.op, LONG{DateEqualTo});
+    QCoreApplication::processEvents();
     expectUnsaved(false);
 }
 
