@@ -13,6 +13,7 @@
 #include <condtree/refdata/ReferenceData.h>
 
 #include <QKeyEvent>
+#include <QScrollBar>
 
 #include <utility>
 #include <variant>
@@ -30,6 +31,28 @@ bool typesCharacter(const QKeyEvent& key)
     const QList<uint> typed = key.text().toUcs4();
     return !typed.isEmpty() && QChar::isPrint(typed.front()) && !QChar::isSpace(typed.front())
            && (key.modifiers() & kCommands) == 0;
+}
+
+// Opens the groups around a row and scrolls by as little as is needed for it to be seen. Not by
+// scrollTo(), which goes on with the view when a host that hears of the scrolling has taken it
+// away.
+void showRow(QTreeView& view, const QModelIndex& index)
+{
+    for (QModelIndex around = index.parent(); around.isValid(); around = around.parent()) {
+        if (!view.isExpanded(around))
+            view.expand(around);
+    }
+    const QRect row = view.visualRect(index);
+    const QRect room = view.viewport()->rect();
+    QScrollBar& bar = *view.verticalScrollBar();
+    const bool isAbove = row.top() < room.top();
+    if (!row.isValid() || (!isAbove && row.bottom() <= room.bottom()))
+        return;
+    const int missing = isAbove ? room.top() - row.top() : row.bottom() - room.bottom();
+    const int unit =
+        view.verticalScrollMode() == QAbstractItemView::ScrollPerItem ? row.height() : 1;
+    const int steps = (missing + unit - 1) / unit;
+    bar.setValue(bar.value() + (isAbove ? -steps : steps));
 }
 
 } // namespace
@@ -174,7 +197,7 @@ bool CellEditing::typeDate(const QKeyEvent& key)
         return false;
     m_lists.settle();
     if (!m_view.isNull())
-        m_view->scrollTo(m_needs.model.indexOf(item));
+        showRow(*m_view, m_needs.model.indexOf(item));
     m_lists.dismiss();
     // All of that lets the host in.
     const std::optional<RowLayout> layout = layoutOf(item);

@@ -65,15 +65,32 @@ Services ControlFixture::services()
         const auto found = translations.find(id);
         return found == translations.end() ? QString::fromUtf16(text) : found->second;
     };
+    // A host that ends the control ends these, too: what is held is not used after it was let in.
     ports.systemMetric = [this](int metric) {
-        return metric == SM_CXSMICON   ? iconSize.width()
-               : metric == SM_CYSMICON ? iconSize.height()
+        const QSize icon = iconSize;
+        if (duringMetric)
+            duringMetric(metric);
+        return metric == SM_CXSMICON   ? icon.width()
+               : metric == SM_CYSMICON ? icon.height()
                                        : realSystemMetric(metric);
     };
     ports.localTime = [this] {
         if (duringClock)
             duringClock();
-        return now ? *now : realServices().localTime();
+        const SYSTEMTIME time = now ? *now : realServices().localTime();
+        if (duringTime)
+            duringTime("localTime");
+        return time;
+    };
+    ports.doubleClickTime = [this] {
+        if (duringTime)
+            duringTime("doubleClickTime");
+        return realServices().doubleClickTime();
+    };
+    ports.tickCount = [this] {
+        if (duringTime)
+            duringTime("tickCount");
+        return realServices().tickCount();
     };
     ports.cursorPos = [this] { return pointer; };
     ports.bitsPerPixel = [this] { return bitsPerPixel; };

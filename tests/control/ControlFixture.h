@@ -137,9 +137,12 @@ protected:
     std::vector<QString> messages;
     std::vector<QWidget*> messageOwners;
     std::vector<unsigned> messageTypes;
-    std::function<void()> duringMessage;  ///< what the host does while a message is open
-    std::function<void(LONG)> duringText; ///< what it does when a text is asked for, by its id
-    std::function<void()> duringClock;    ///< what it does when the clock is read
+    std::function<void()> duringMessage;   ///< what the host does while a message is open
+    std::function<void(LONG)> duringText;  ///< what it does when a text is asked for, by its id
+    std::function<void()> duringClock;     ///< what it does when the clock is read
+    std::function<void(int)> duringMetric; ///< what it does when a metric is asked for
+    /// What it does when it is asked for the time, by the port's name.
+    std::function<void(const std::string& port)> duringTime;
     std::map<LONG, QString> translations; ///< by text id; the default where there is none
     std::optional<SYSTEMTIME> now;        ///< what the clock says; the real time when empty
     int bitsPerPixel = 32;

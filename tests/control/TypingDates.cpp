@@ -1,6 +1,6 @@
 #include "CellHand.h"
 
-#include <condtree/editing/PickDateDlg.h>
+#include <QScrollBar>
 
 namespace condtree::test {
 namespace {
@@ -112,6 +112,94 @@ TEST_F(TypingDates, ARowThatIsScrolledAwayIsShownFirst)
     ASSERT_EQ(whatIsOpen(), "'2'");
     EXPECT_TRUE(control->viewport()->rect().contains(editor()->geometry()));
     EXPECT_EQ(editor()->y(), cellOf(0, 2).top);
+}
+
+TEST_F(TypingDates, ARowBelowTheOthersIsScrolledToByNoMoreThanIsNeeded)
+{
+    loaded(std::vector<TransCond>(
+        60, record(RowKindTop, 2, "Due", "2024-03-14", ArgDate, DateEqualTo)));
+    letEventsPass(); // a scroll bar comes
+    selectRow(40);
+    control->scrollToTop();
+    type("2");
+    ASSERT_EQ(whatIsOpen(), "'2'");
+    const QRect row = control->visualRect(indexOf(40));
+    const QRect room = control->viewport()->rect();
+    EXPECT_LE(row.bottom(), room.bottom());
+    EXPECT_GT(row.bottom() + row.height(), room.bottom());
+}
+
+TEST_F(TypingDates, ARowInAClosedGroupIsShownFirst)
+{
+    loaded({groupRecord(), record(RowKindInGroup, 2, "Due", "2024-03-14", ArgDate, DateEqualTo)});
+    control->expand(indexOf(0));
+    const QModelIndex row = control->model()->index(0, 0, indexOf(0));
+    control->setCurrentIndex(row);
+    control->collapse(indexOf(0));
+    control->setCurrentIndex(row);
+    letEventsPass();
+    type("2");
+    EXPECT_TRUE(control->isExpanded(indexOf(0)));
+    ASSERT_EQ(whatIsOpen(), "'2'");
+    EXPECT_EQ(editor()->y(), control->visualRect(row).top());
+}
+
+TEST_F(TypingDates, AHostMayEndItWhenTheRowIsScrolledTo)
+{
+    const std::function<void()> ends[] = {[this] { control->mvDeleteNode(topRow(0).mhItem); },
+                                          [this] { control->mvDeleteNode(TVI_ROOT); },
+                                          [this] { control.reset(); }};
+    for (const auto& end : ends) {
+        loaded(std::vector<TransCond>(
+            60, record(RowKindTop, 2, "Due", "2024-03-14", ArgDate, DateEqualTo)));
+        letEventsPass(); // a scroll bar comes
+        selectRow(0);
+        control->scrollToBottom();
+        bool hasEnded = false;
+        QObject::connect(control->verticalScrollBar(), &QScrollBar::valueChanged, window.get(),
+                         [&] {
+                             if (!std::exchange(hasEnded, true))
+                                 end();
+                         });
+        type("2");
+        EXPECT_TRUE(hasEnded);
+        if (control != nullptr) {
+            control->verticalScrollBar()->disconnect(window.get());
+            EXPECT_EQ(whatIsOpen(), "nothing");
+        }
+    }
+    EXPECT_EQ(changes, 0);
+}
+
+TEST_F(TypingDates, AHostMayEndItWhenItIsAskedForAMetric)
+{
+    const std::function<void()> ends[] = {[this] { control->mvDeleteNode(topRow(0).mhItem); },
+                                          [this] { control->mvDeleteNode(TVI_ROOT); },
+                                          [this] { control.reset(); }};
+    for (const auto& end : ends) {
+        loaded({record(RowKindTop, 2, "Due", "2024-03-14", ArgDate, DateEqualTo)});
+        selectRow(0);
+        letEventsPass();
+        bool hasEnded = false;
+        duringMetric = [&](int metric) {
+            if (metric == SM_CXSMICON && !std::exchange(hasEnded, true))
+                end();
+        };
+        QTest::sendKeyEvent(QTest::Press, control.get(), Qt::Key_2, QStringLiteral("2"), {});
+        duringMetric = nullptr;
+        EXPECT_TRUE(hasEnded);
+        if (control != nullptr) {
+            EXPECT_EQ(whatIsOpen(), "nothing");
+        }
+    }
+    EXPECT_EQ(changes, 0);
+}
+
+TEST_F(TypingDates, ACharacterOutsideTheBasicPlaneCountsToo)
+{
+    const QString typed = QStringLiteral("\U0001F600");
+    QTest::sendKeyEvent(QTest::Press, QApplication::focusWidget(), Qt::Key_unknown, typed, {});
+    EXPECT_EQ(whatIsOpen(), "'" + typed.toStdString() + "'");
 }
 
 TEST_F(TypingDates, WhatIsTypedElsewhereIsNotForTheRow)
