@@ -7,6 +7,7 @@ namespace {
 
 constexpr KiroVaultType kReduced{1};
 constexpr HRESULT kDenied = static_cast<HRESULT>(0x80070005U);
+const QString kNoMemory = QStringLiteral("Not enough memory to complete the operation.");
 
 /// Which list a click on a value opens.
 class ValueClicks : public CellHand {
@@ -196,6 +197,38 @@ TEST_F(ValueClicks, StatesThatMemoryIsNotEnoughForOpenNothing)
 {
     library->getStates.callsOutOfMemory = 2;
     EXPECT_EQ(opensNothing(row(12, 100)), 0U);
+}
+
+TEST_F(ValueClicks, MemoryThatEndsWhileStatesAreListedIsToldAndOpensNothing)
+{
+    for (const LONG code : {8, 12}) {
+        row(code, 100);
+        letEventsPass(); // the rows are drawn, and need texts too
+        messages.clear();
+        messageTypes.clear();
+        duringText = [](LONG id) {
+            if (id == 142)
+                throw std::bad_alloc();
+        };
+        tellClick(0, 2);
+        duringText = nullptr;
+        EXPECT_EQ(messages, (std::vector{kNoMemory})) << code;
+        EXPECT_EQ(messageTypes, (std::vector<unsigned>{MB_ICONERROR}));
+        EXPECT_EQ(whatIsOpen(), "nothing");
+    }
+}
+
+TEST_F(ValueClicks, MemoryThatEndsWhileDocumentTypesAreFetchedIsToldAndTheListIsEmpty)
+{
+    library->docTypes = {{QStringLiteral("Drawing"), {}}};
+    library->getDocTypes.callsOutOfMemory = 1;
+    library->getDocTypes.recordsBeforeFailure = 1;
+    row(3, 100);
+    click(0, 2);
+    EXPECT_EQ(messages, (std::vector{kNoMemory}));
+    EXPECT_EQ(messageTypes, (std::vector<unsigned>{MB_ICONERROR}));
+    ASSERT_EQ(whatIsOpen(), "list");
+    EXPECT_EQ(entries(), "");
 }
 
 TEST_F(ValueClicks, WithoutAManagerCategoriesAndChildStatesOpenNothing)

@@ -180,12 +180,16 @@ TEST_F(Finishing, CommitsFullTextsOnlyWithADictionary)
     }
 }
 
-TEST_F(Finishing, CreationClearsTheDictionary)
+TEST_F(Finishing, CreationClearsTheDictionaryAndSetsCompletionAndCommittingOn)
 {
     editor = new FocusEdit;
     editor->addCompletion(QStringLiteral("a"), QStringLiteral("b"), false);
+    editor->setCompletionOn(false);
+    editor->setCommitOnFinish(false);
     ASSERT_TRUE(editor->Create(*value, cell, around.parent, timers.services()));
     EXPECT_TRUE(editor->completions().empty());
+    EXPECT_TRUE(editor->isCompletionOn());
+    EXPECT_TRUE(editor->commitsOnFinish());
     editor->addCompletion(QStringLiteral("a"), QStringLiteral("b"), false);
     editor->clearCompletions();
     editor->setText(QStringLiteral("a"));
