@@ -75,11 +75,13 @@ Services ControlFixture::services()
                                        : realSystemMetric(metric);
     };
     ports.localTime = [this] {
-        if (duringClock)
-            duringClock();
         const SYSTEMTIME time = now ? *now : realServices().localTime();
-        if (duringTime)
-            duringTime("localTime");
+        const auto onClock = duringClock;
+        const auto onTime = duringTime;
+        if (onClock)
+            onClock();
+        if (onTime)
+            onTime("localTime");
         return time;
     };
     ports.doubleClickTime = [this] {
