@@ -46,6 +46,13 @@ TEST_F(Dragging, AClosedGroupIsOpenedByTheDrop)
     EXPECT_EQ(tree->currentIndex(), index({2, 1}));
 }
 
+TEST_F(Dragging, AClosedGroupIsOpenedAlsoWhereTheViewDoesNotFollowTheSelection)
+{
+    tree->setAutoScroll(false);
+    drag({1}, at({3}));
+    EXPECT_TRUE(tree->isExpanded(index({2})));
+}
+
 TEST_F(Dragging, ARowIsMovedOutOfItsGroupToTheTopLevel)
 {
     drag({0, 0}, below());
