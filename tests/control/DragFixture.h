@@ -82,14 +82,15 @@ protected:
         (new QVBoxLayout(dialog))->addWidget(frame);
         Services ports = services();
         ports.startTimer = [this](QObject* receiver, std::uintptr_t id, unsigned ms) {
-            EXPECT_EQ(receiver, tree.data());
+            EXPECT_EQ(receiver, timerOwner);
             running[id] = ms;
         };
         ports.stopTimer = [this](QObject* receiver, std::uintptr_t id) {
-            EXPECT_EQ(receiver, tree.data());
+            EXPECT_EQ(receiver, timerOwner);
             running.erase(id);
         };
         tree = new DragCtrl(frame, ports);
+        timerOwner = tree;
         (new QVBoxLayout(frame))->addWidget(tree);
         tree->mvInitialize(library.get(), 120, {}, {});
         QObject::connect(tree, &CondTreeCtrl::conditionChanged, [this] {
@@ -218,6 +219,7 @@ protected:
 
     QPointer<DragHost> dialog;
     QPointer<DragCtrl> tree;
+    QObject* timerOwner = nullptr; ///< the tree, also while it is being destroyed
     std::map<std::uintptr_t, unsigned> running;
     int changes = 0;
     std::function<void()> whenChanged;
