@@ -15,6 +15,7 @@
 #include <condtree/model/TreeType.h>
 #include <condtree/model/VarTreeCtrlNode.h>
 #include <condtree/platform/Automation.h>
+#include <condtree/platform/ButtonReleasedMessage.h>
 #include <condtree/platform/Export.h>
 #include <condtree/platform/IconLibrary.h>
 #include <condtree/platform/Lst.h>

@@ -1,8 +1,6 @@
 // The filters of keys and characters, pasting, input methods.
 #include "FocusEditFixture.h"
 
-#include "support/WarningGuard.h"
-
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QDropEvent>
@@ -114,7 +112,6 @@ QMenu* menuOver(QWidget& field)
 {
     auto* area = qobject_cast<QAbstractScrollArea*>(&field);
     QWidget& target = area != nullptr ? *area->viewport() : field;
-    const ExpectWarning noise(QStringLiteral("This plugin does not support")); // raise, and grab
     QContextMenuEvent request(QContextMenuEvent::Mouse, {3, 3}, target.mapToGlobal(QPoint(3, 3)));
     QApplication::sendEvent(&target, &request);
     // The platform of the tests makes the menu the active window.

@@ -3,7 +3,6 @@
 #include "CalendarHand.h"
 
 #include "support/QtPrinters.h"
-#include "support/WarningGuard.h"
 
 #include <condtree/editing/PickDateDlg.h>
 #include <condtree/model/VarTreeCtrlNode.h>

@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-
 using namespace condtree;
 using namespace condtree::test;
 using namespace condtree::workbench;
