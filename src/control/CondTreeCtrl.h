@@ -56,6 +56,11 @@ public:
     void mvSave(std::vector<TransCond>& records, VarTreeCtrlNode* node = nullptr,
                 bool alterArguments = false);
 
+    /// Whether typing into an open list hides the entries that do not contain what was typed; on
+    /// until set. Without it typing goes to entries by how they begin. It holds for lists that are
+    /// opened from now on.
+    void setQuickFilter(bool on);
+
     /// Applies what was chosen from a list that has closed, commits what was typed into an editor
     /// that stands open in a cell, closes it, and has told of the changes when it returns. A list
     /// that is still open stays so. For hosts that save at a key, which leaves the focus where it

@@ -103,6 +103,11 @@ void CondTreeCtrl::OnComboCloseup()
         Q_EMIT conditionChanged();
 }
 
+void CondTreeCtrl::setQuickFilter(bool on)
+{
+    m_parts->cells.lists().setQuickFilter(on);
+}
+
 void CondTreeCtrl::finishEditing()
 {
     const auto parts = m_parts;

@@ -72,6 +72,7 @@ CommandCombo* ListEditing::make(const RECT& cell, const ImgLst* images)
     if (m_view.isNull())
         return nullptr;
     CommandCombo& combo = m_session.create(m_view->viewport(), cell, services, images);
+    combo.setQuickFilter(m_filters);
     if (const VarTreeCtrlNode* node = m_tree.node(m_clicked))
         combo.setAccessibleName(node->mName);
     // It has a style sheet, which keeps its parts from the colours of what is around them.

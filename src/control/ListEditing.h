@@ -34,6 +34,8 @@ public:
     /// What is called when a list has closed, and with keys and turns of the wheel that another
     /// widget gets while it is open.
     void setHooks(std::function<void()> closedUp, std::function<void(QEvent*)> input);
+    /// Whether the lists opened from now on filter by what is typed.
+    void setQuickFilter(bool on) { m_filters = on; }
     /// Destroys the list; the view goes.
     void shutDown();
 
@@ -90,6 +92,7 @@ private:
     ChoiceCache m_cache;
     InputRelay m_input;
     HTREEITEM m_clicked = nullptr;
+    bool m_filters = true;
     QPointer<CommandCombo> m_applying; ///< whose choice is being applied
     std::function<void()> m_closedUp;
 };

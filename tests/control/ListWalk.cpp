@@ -103,6 +103,28 @@ std::vector<Walked> walks()
              "10 Group | Designers op=100 id=3"}};
 }
 
+TEST_F(ListWalk, AHostMaySwitchTheFilterOff)
+{
+    start();
+    const VarTreeCtrlNode& row = only({FilePath, "FilePath", "", "", StringContains});
+    const auto shownAfter = [&](const char* letters) {
+        click(row, 0);
+        typeText(popup(), letters);
+        const int shown = list().shownCount();
+        closeAll();
+        return shown;
+    };
+    EXPECT_EQ(shownAfter("visio"), 1) << "what contains it";
+    control->setQuickFilter(false);
+    click(row, 0);
+    const int all = list().shownCount();
+    closeAll();
+    EXPECT_GT(all, 1);
+    EXPECT_EQ(shownAfter("visio"), all);
+    control->setQuickFilter(true);
+    EXPECT_EQ(shownAfter("visio"), 1);
+}
+
 TEST_F(ListWalk, EveryListIsChosenFromByMouseKeysTypingAndTheFilter)
 {
     using Hand = std::function<void(const Walked&)>;
