@@ -216,7 +216,8 @@ QPixmap RowDragging::pictureOf(HTREEITEM item) const
 void RowDragging::perform(const ShowDragImage& image)
 {
     const QPixmap picture = pictureOf(image.item);
-    if (picture.isNull() || m_view.isNull())
+    // Drawing lets the host in, who may have deleted the row meanwhile.
+    if (picture.isNull() || m_view.isNull() || m_drag.dragged() != image.item)
         return;
     m_image = new DragImage(coveredBy(*m_view), picture);
     m_drag.imageShown();

@@ -6,8 +6,8 @@
 
 namespace condtree {
 
-/// What the control sends to its parent's parent when the left button was released over it: after
-/// clicks, and after a drag that moved a row. A drag that ended without moving one is not told.
+/// What the control sends to its parent's parent when the left button was released: after clicks,
+/// and after drags. Not where a row is let go on itself, on no target, or in its own subtree.
 class CONDTREE_EXPORT ButtonReleasedMessage final : public QEvent {
 public:
     ButtonReleasedMessage()

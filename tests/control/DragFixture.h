@@ -31,7 +31,15 @@ public:
     int clicks = 0;
     std::vector<std::uintptr_t> timers;
     QRegion painted;
+    std::function<void()> beforePainting; ///< what the host does, once, before the rows are drawn
 
+    void OnNMCustomdraw(NMHDR* header, LRESULT* result) override
+    {
+        const DWORD stage = reinterpret_cast<NMTVCUSTOMDRAW*>(header)->dwDrawStage;
+        if (stage == CDDS_PREPAINT && beforePainting)
+            std::exchange(beforePainting, nullptr)();
+        CondTreeCtrl::OnNMCustomdraw(header, result);
+    }
     void OnNMClick(NMHDR*, LRESULT* result) override
     {
         *result = 0;

@@ -78,6 +78,23 @@ TEST_F(DraggingReentrancy, ToldOfTheSelectionItMayClearTheTree)
     expectNoDrag();
 }
 
+TEST_F(DraggingReentrancy, ARowThatGoesWhileItsPictureIsDrawnIsNotDragged)
+{
+    press(at({1}));
+    fire(1000);
+    tree->beforePainting = [this] { tree->mvDeleteNode(node({1})->mhItem); };
+    tree->mvBegindrag(point(at({1})));
+    ASSERT_FALSE(tree->beforePainting) << "the picture was drawn";
+    EXPECT_EQ(image(), nullptr);
+    const std::string rows = text();
+    move(at({2}));
+    release(at({2}));
+    EXPECT_FALSE(tree->isExpanded(index({2}))) << "nothing was dropped on the group";
+    EXPECT_EQ(text(), rows);
+    EXPECT_EQ(changes, 0);
+    expectNoDrag();
+}
+
 TEST_F(DraggingReentrancy, ARowIsSelectedAlthoughTheHostSavesMeanwhile)
 {
     std::string savedMeanwhile;
